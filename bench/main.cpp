@@ -1,0 +1,18 @@
+// Measures the program against the targets it has to reach; the exit code tells whether it reached them all.
+
+#include <QApplication>
+
+#include "SweepBench.h"
+#include "desktop/Theme.h"
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  QApplication application(argc, argv);
+  vantrel::applyTheme(application);
+  vantrel::bench::Report report;
+  vantrel::bench::benchFlood(report);
+  vantrel::bench::benchSweeps(report);
+  return report.allReached() ? 0 : 1;
+}

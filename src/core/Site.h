@@ -1,0 +1,14 @@
+// What a distributor of the program sets when it is built.
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+struct Site {
+  std::string masterHost;  // host name or dotted address of the master server
+  std::string mirror;      // base address of the default map mirror, with a slash at its end
+  std::string mirrorSite;  // address of that mirror's web site
+};
+
+}  // namespace vantrel

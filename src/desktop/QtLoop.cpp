@@ -1,0 +1,98 @@
+#include "desktop/QtLoop.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+#include <ctime>
+
+#include "desktop/Cp1252.h"
+
+namespace vantrel {
+
+QtLoop::QtLoop() {
+  clock_.start();
+}
+
+QtLoop::~QtLoop() {
+  while (!timers_.empty()) {
+    stopTimer(timers_.begin()->first);
+  }
+}
+
+std::uint64_t QtLoop::tickCount() const {
+  return static_cast<std::uint64_t>(clock_.elapsed());
+}
+
+void QtLoop::wait(int milliseconds) {
+  if (ending_) {
+    return;
+  }
+  if (milliseconds <= 0) {
+    QCoreApplication::processEvents();
+    return;
+  }
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  waits_.push_back(&loop);
+  loop.exec();
+  waits_.pop_back();
+}
+
+TimerId QtLoop::startTimer(int milliseconds, TimerKind kind, std::function<void()> due) {
+  const TimerId id = ++lastTimer_;
+  arm(id, timers_.emplace(id, Running{milliseconds, kind, std::move(due), nullptr}).first->second);
+  return id;
+}
+
+// A toolkit's timer does not fire again inside its own signal, so each call has a timer of its own.
+void QtLoop::arm(TimerId id, Running& running) {
+  running.timer = new QTimer;
+  running.timer->setTimerType(Qt::PreciseTimer);
+  running.timer->setSingleShot(true);
+  connect(running.timer, &QTimer::timeout, this, [this, id] { fire(id); });
+  running.timer->start(running.milliseconds);
+}
+
+void QtLoop::fire(TimerId id) {
+  const auto found = timers_.find(id);
+  if (found == timers_.end()) {
+    return;
+  }
+  // A copy, as the call may stop its timer.
+  const std::function<void()> due = found->second.due;
+  found->second.timer->deleteLater();
+  if (found->second.kind == TimerKind::repeating) {
+    arm(id, found->second);
+  } else {
+    timers_.erase(found);
+  }
+  due();
+}
+
+void QtLoop::stopTimer(TimerId timer) {
+  const auto found = timers_.find(timer);
+  if (found != timers_.end()) {
+    found->second.timer->stop();
+    found->second.timer->deleteLater();
+    timers_.erase(found);
+  }
+}
+
+std::string QtLoop::dateAndTime() const {
+  const std::time_t now = std::time(nullptr);
+  const std::tm* const local = std::localtime(&now);
+  char text[128] = "";
+  if (local == nullptr || std::strftime(text, sizeof text, "%x-%X", local) == 0) {
+    return {};
+  }
+  return toCp1252(QString::fromLocal8Bit(text));
+}
+
+void QtLoop::beginEnding() {
+  ending_ = true;
+  for (QEventLoop* const wait : waits_) {
+    wait->quit();
+  }
+}
+
+}  // namespace vantrel

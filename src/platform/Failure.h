@@ -1,0 +1,47 @@
+// What went wrong in a conversion or in the outside world: a number that stays the same everywhere and a text for the
+// user. Failures are thrown by value and end in one of the three ways of core/FailureStyles.h; none leaves a handler.
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+struct Failure {
+  int number = 0;
+  std::string description;
+
+  bool operator==(const Failure& other) const = default;
+};
+
+namespace failures {
+
+inline Failure overflow() {
+  return {6, "Overflow"};
+}
+inline Failure subscriptOutOfRange() {
+  return {9, "Subscript out of range"};
+}
+inline Failure typeMismatch() {
+  return {13, "Type mismatch"};
+}
+inline Failure fileNotFound() {
+  return {53, "File not found"};
+}
+inline Failure diskFull() {
+  return {61, "Disk full"};
+}
+inline Failure fileAccess() {
+  return {75, "Path/File access error"};
+}
+inline Failure pathNotFound() {
+  return {76, "Path not found"};
+}
+inline Failure connectionReset() {
+  return {10054, "The connection is reset by remote side"};
+}
+inline Failure sendFailed(const std::string& reason) {
+  return {10051, reason};
+}
+
+}  // namespace failures
+}  // namespace vantrel

@@ -1,0 +1,118 @@
+// What comes in from the network, taken apart: status replies and the master server's list.
+#include <gtest/gtest.h>
+
+#include "query/MasterListReader.h"
+#include "query/StatusReply.h"
+#include "support/FilesContract.h"
+#include "support/World.h"
+
+namespace vantrel {
+namespace {
+
+TEST(StatusReply, the_first_key_is_dropped_by_its_place_and_the_rest_is_split) {
+  struct Case {
+    const char* datagram;
+    std::vector<std::string> elements;
+  };
+  const Case cases[] = {
+      {"\\hostname\\Fun\\mapname\\dune", {"Fun", "mapname", "dune"}},
+      {"\\hostname\\\\mapname\\", {"", "mapname", ""}},
+      {"\\hostname\\Fun", {"Fun"}},
+      {"\\hostname\\", {""}},
+      {"\\key\\Fun\\a", {"Fun", "a"}},
+      {"\\ab\\Fun\\a\\b", {"a", "b"}},  // A first key this short takes its value along.
+      {"", {""}},
+      {"hello", {"hello"}},
+      {"hostname", {"hostname"}},
+      {"name\\rest", {"rest"}},
+      {"nam\\rest", {"nam", "rest"}},
+      {"\\\\\\\\\\\\", {"", ""}},
+  };
+  for (const Case& each : cases) {
+    const StatusReply reply = ParseStatusReply(each.datagram);
+    std::vector<std::string> elements;
+    for (int i = 0; i < reply.count(); ++i) {
+      elements.push_back(reply.element(i));
+    }
+    EXPECT_EQ(elements, each.elements) << each.datagram;
+  }
+}
+
+TEST(StatusReply, bytes_of_any_value_stay_and_an_element_that_is_not_there_is_failure_9) {
+  const StatusReply reply = ParseStatusReply(std::string_view("\\hostname\\a\0\xFF\\b", 15));
+  EXPECT_EQ(reply.element(0), std::string("a\0\xFF", 3));
+  EXPECT_EQ(failureOf([&] { reply.element(2); }), 9);
+  EXPECT_EQ(failureOf([&] { reply.element(-1); }), 9);
+}
+
+std::string textOf(const std::vector<ServerAddress>& addresses) {
+  std::string text;
+  for (const ServerAddress& address : addresses) {
+    text += address.ip + ":" + std::to_string(address.port) + " ";
+  }
+  return text;
+}
+
+TEST(MasterListReader, a_list_is_records_of_six_bytes_without_its_end_marks) {
+  struct Case {
+    std::string bytes;
+    const char* addresses;
+  };
+  const std::string mark = "\\final\\";
+  const std::string one = listRecord("192.0.2.1", 2302);
+  const std::string two = listRecord("198.51.100.255", 65535);
+  const Case cases[] = {
+      {mark, ""},
+      {one + two + mark, "192.0.2.1:2302 198.51.100.255:65535 "},
+      {std::string(6, '\0') + mark, "0.0.0.0:0 "},
+      {one + two.substr(0, 5) + mark, "192.0.2.1:2302 "},
+      {one.substr(0, 3) + mark + one.substr(3) + two, "192.0.2.1:2302 198.51.100.255:65535 "},
+      {mark + mark + one + mark, "192.0.2.1:2302 "},
+      {"\\final\\final\\.", "102.105.110.97:27740 "},   // One mark, and the rest is "final\".
+      {"\\fi\\final\\nal\\", "92.102.105.110:24940 "},  // What closes up behind a mark is none.
+  };
+  for (const Case& each : cases) {
+    MasterListReader reader;
+    std::string found = textOf(reader.read(each.bytes));
+    found += textOf(reader.finish());
+    EXPECT_EQ(found, each.addresses);
+  }
+}
+
+TEST(MasterListReader, any_cut_into_arrivals_gives_the_same_addresses) {
+  const std::string mark = "\\final\\";
+  std::string list = listRecord("92.102.105.110", 24940) + listRecord("1.2.3.92", 23654) + "\\final" +
+                     listRecord("92.92.92.92", 23644) + mark + listRecord("192.0.2.1", 2302) + "\\fin" + mark +
+                     std::string(6, '\0') + mark + listRecord("198.51.100.1", 92) + listRecord("10.0.0.92", 23644);
+  for (const std::string& end : {mark, std::string("\\fi"), std::string()}) {
+    const std::string bytes = list + end;
+    MasterListReader whole;
+    std::string expected = textOf(whole.read(bytes));
+    expected += textOf(whole.finish());
+    for (std::size_t i = 0; i <= bytes.size(); ++i) {
+      for (std::size_t j = i; j <= bytes.size(); ++j) {
+        MasterListReader reader;
+        std::string found = textOf(reader.read(bytes.substr(0, i)));
+        found += textOf(reader.read(bytes.substr(i, j - i)));
+        found += textOf(reader.read(bytes.substr(j)));
+        found += textOf(reader.finish());
+        ASSERT_EQ(found, expected) << "cut at " << i << " and " << j;
+      }
+    }
+  }
+}
+
+TEST(MasterListReader, a_record_is_given_out_with_the_arrival_that_completes_it) {
+  MasterListReader reader;
+  const std::string record = listRecord("192.0.2.1", 2302);
+  EXPECT_TRUE(reader.untouched());
+  EXPECT_EQ(textOf(reader.read(record + record.substr(0, 4))), "192.0.2.1:2302 ");
+  EXPECT_EQ(textOf(reader.read(record.substr(4))), "192.0.2.1:2302 ");
+  reader.read(record.substr(0, 4));
+  reader.reset();
+  EXPECT_TRUE(reader.untouched());
+  EXPECT_EQ(textOf(reader.read(record)), "192.0.2.1:2302 ");
+}
+
+}  // namespace
+}  // namespace vantrel
