@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <utility>
 
+#include "core/StoresAtStart.h"
+
 namespace vantrel {
 namespace {
 
@@ -21,6 +23,7 @@ Program::Program(Site site, const std::string& appDir)
       sweep_({ws2_, loop_, frmMain_, frmPlayers_, stores_, folder_, progress_}),
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
       window_(frmMain_, commands_, progress_) {
+  openStores(storeContext_, stores_);
   commands_.add(getServerList, [this] { exchange_.start(); });
   closed_ = window_.closed.connect([this] { end(); });
 }

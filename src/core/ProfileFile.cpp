@@ -1,6 +1,7 @@
 #include "core/ProfileFile.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "core/Text.h"
 
@@ -98,6 +99,15 @@ std::optional<std::string> ProfileFile::value(std::string_view section, std::str
     return std::nullopt;
   }
   return std::string(keyLine(held->lines[found->second])->value);
+}
+
+bool ProfileFile::hasSectionBeyond(int number) const {
+  return std::any_of(numbers_.begin(), numbers_.end(), [number](const auto& section) {
+    const std::string& name = section.first;
+    int value = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), value);
+    return error == std::errc() && end == name.data() + name.size() && value > number;
+  });
 }
 
 std::size_t ProfileFile::longestValue(std::string_view section) const {

@@ -20,6 +20,8 @@ class ProfileFile {
   // the same name the first counts.
   std::optional<std::string> value(std::string_view section, std::string_view key) const;
   bool hasSection(std::string_view section) const { return find(section) != nullptr; }
+  // True when there is a section named by a number above `number`.
+  bool hasSectionBeyond(int number) const;
   // Length of the longest value in a section, 0 when there is none.
   std::size_t longestValue(std::string_view section) const;
 

@@ -28,7 +28,7 @@ ProfileFiles::Entry& ProfileFiles::entry(const std::string& file) {
   Entry& entry = entries_[file];
   // One look at the disk a millisecond is enough to notice what another program did.
   const std::uint64_t now = loop_.tickCount();
-  if (!entry.draft && !isUnsaved(entry.replaced, entry.changes.size()) && entry.checked != now) {
+  if (!entry.draft && !entry.replaced && entry.checked != now) {
     entry.checked = now;
     stopSilently([&] { read(file, entry); });
   }
@@ -117,10 +117,14 @@ bool ProfileFiles::write(const std::string& file, Entry& entry) {
     return true;
   }
   try {
+    if (entry.copy) {
+      files_.replace(freeCopyName(file), *entry.copy);
+      entry.copy.reset();
+    }
     if (!entry.replaced) {
       read(file, entry);
     } else if (!entry.read && files_.stamp(file)) {
-      files_.rename(file, file + ".bak");
+      files_.rename(file, freeCopyName(file));
     }
     files_.replace(file, entry.content.bytes());
   } catch (const Failure&) {
@@ -156,6 +160,10 @@ void ProfileFiles::dropDraft(const std::string& file) {
 
 void ProfileFiles::commitDraft(const std::string& file) {
   Entry& held = entries_[file];
+  if (entries_[file + ".draft"].content.size() == 0 && !exists(file)) {
+    dropDraft(file);  // Of nothing, no file is made.
+    return;
+  }
   held.content = std::move(entries_[file + ".draft"].content);
   held.replaced = true;
   held.changes.clear();
@@ -171,13 +179,19 @@ bool ProfileFiles::exists(const std::string& file) {
   return isUnsaved(held.replaced, held.changes.size()) || files_.stamp(file).has_value();
 }
 
-void ProfileFiles::keepCopy(const std::string& file) {
+std::string ProfileFiles::freeCopyName(const std::string& file) const {
   std::string copy = file + ".bak";
   for (int i = 2; i <= 9 && files_.stamp(copy); ++i) {
     copy = file + ".bak" + std::to_string(i);
   }
-  const std::string bytes = content(file).bytes();
-  stopSilently([&] { files_.replace(copy, bytes); });
+  return copy;
+}
+
+void ProfileFiles::keepCopy(const std::string& file) {
+  Entry& held = entry(file);
+  if (!held.copy) {
+    held.copy = held.content.bytes();
+  }
 }
 
 }  // namespace vantrel

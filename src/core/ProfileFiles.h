@@ -58,8 +58,8 @@ class ProfileFiles {
   // True when the file is on disk or about to be.
   bool exists(const std::string& file);
 
-  // Writes a copy of the file's present content beside it, as ".bak", or ".bak2" to ".bak9" where that is taken. A
-  // failure is ignored.
+  // Has the file's present content kept beside it, as ".bak", or ".bak2" to ".bak9" where that is taken, before the
+  // file is written the next time: as long as the copy cannot be written, neither is the file.
   void keepCopy(const std::string& file);
 
   // Writes now what is not yet written. True when nothing is left to write.
@@ -77,8 +77,9 @@ class ProfileFiles {
     std::optional<std::uint64_t> checked;  // tick count of the last look at the stamp
     bool read = false;
     bool draft = false;
-    bool replaced = false;        // the whole content is new, whatever stands on disk
-    std::vector<Change> changes;  // not yet written
+    bool replaced = false;            // the whole content is new, whatever stands on disk
+    std::optional<std::string> copy;  // bytes to be kept beside the file before it is written
+    std::vector<Change> changes;      // not yet written
     std::size_t changedBytes = 0;
     TimerId timer = 0;
     bool soon = false;             // the timer runs to the end of this turn, not to a quiet moment
@@ -91,6 +92,7 @@ class ProfileFiles {
   void schedule(const std::string& file, Entry& entry, int milliseconds);
   void writeWhenDue(const std::string& file);
   bool write(const std::string& file, Entry& entry);
+  std::string freeCopyName(const std::string& file) const;
   static void apply(ProfileFile& content, const Change& change);
 
   Files& files_;

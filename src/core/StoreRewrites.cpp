@@ -14,7 +14,11 @@ void addEach(FavoritesList& list, Add add) {
     list.makeCurrent(i);
     add(list.current());
   }
-  list.select(selected);
+  if (selected > 0) {
+    list.makeCurrent(selected);
+  } else {
+    list.select(0);
+  }
 }
 
 }  // namespace
@@ -68,7 +72,7 @@ bool StoreRewrites::holdsMoreThanIsRead(const std::string& file, const StoreForm
       return true;
     }
   }
-  return content.hasSection(std::to_string(count + 1));
+  return content.hasSectionBeyond(count);
 }
 
 void StoreRewrites::saveFaves(const std::string& m_File) {

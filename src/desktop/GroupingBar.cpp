@@ -50,10 +50,6 @@ void GroupingBar::showOffer(const QString& name, const QIcon& icon, const QPoint
   update();
 }
 
-int GroupingBar::hintWidth() const {
-  return fontMetrics().horizontalAdvance(fromCp1252(grid_.look().groupingHint));
-}
-
 int GroupingBar::chipWidth(const Chip& chip) const {
   const int icon = chip.icon.isNull() ? 0 : iconSize + 4;
   return margin + icon + fontMetrics().horizontalAdvance(chip.name) + margin + closeSize + 4;

@@ -24,7 +24,7 @@ class GroupingBar : public QWidget {
   // Shows where a column that is being dragged would go; `position` in the bar's coordinates, a null name ends it.
   void showOffer(const QString& name, const QIcon& icon, const QPoint& position);
 
-  // Empty where there is no chip, or before it was painted.
+  // Empty when there is no chip.
   QRect chipRect() const;
   QRect closeRect() const;
 
@@ -51,7 +51,6 @@ class GroupingBar : public QWidget {
 
   enum class Press { none, chip, close };
 
-  int hintWidth() const;
   int chipWidth(const Chip& chip) const;
   void paintChip(QPainter& painter, const Chip& chip, const QRect& rect, qreal opacity) const;
   void paintClose(QPainter& painter) const;

@@ -2,6 +2,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "desktop/ServerGridDelegate.h"
 #include "desktop/ServerGridIcons.h"

@@ -20,7 +20,7 @@ class StatusReply {
   std::vector<std::string> elements_;
 };
 
-// Any bytes make a reply: what is none has the whole of it as its first element.
+// Any bytes make a reply: one whose first key is not where it should be is split from its first byte.
 StatusReply ParseStatusReply(std::string_view datagram);
 
 }  // namespace vantrel

@@ -89,7 +89,7 @@ void Sweep::handleReply(const Datagram& datagram) {
   frmMain& window = c_.mainWindow;
   Reply reply(datagram, window);
   c_.progress.noteReply(reply.datagram.ip, reply.datagram.port);
-  const auto showCount = [&] { window.lblCount.caption.set("Server Count: " + std::to_string(reply.row())); };
+  const auto showCount = [&] { this->showCount(reply); };
   // Whatever fails in here, the reply still makes a row with what was gathered.
   const SkippingSteps gathering([&] {
     stopSilently(showCount);
@@ -103,15 +103,24 @@ void Sweep::handleReply(const Datagram& datagram) {
   }
 
   const SkippingSteps step;
-  step([&] { showRow(reply); });
+  RowFate fate = RowFate::gone;
+  step([&] { fate = showRow(reply); });
   window.grdServers.redraw.set(true);
-  step([&] { writeCache(reply); });
+  if (fate == RowFate::shown) {
+    step([&] { writeCache(reply); });
+  }
   window.tmrPing.switchOn();
-  if (c_.players.visible.get()) {
+  if (fate == RowFate::shown && c_.players.visible.get()) {
     step([&] { c_.players.lblStatus.caption.set(std::to_string(reply.row()) + " servers queried."); });
   }
   window.txtPlayer.enabled.set(true);
-  step([&] { rowAdded.fire(reply.row()); });
+  if (fate == RowFate::shown) {
+    step([&] { rowAdded.fire(reply.row()); });
+  }
+}
+
+void Sweep::showCount(const Reply& reply) {
+  c_.mainWindow.lblCount.caption.set("Server Count: " + std::to_string(reply.row()));
 }
 
 void Sweep::gather(Reply& reply, const SkippingSteps& step) {
@@ -154,15 +163,16 @@ void Sweep::gatherElement(Reply& reply, int i, const SkippingSteps& step) {
   }
 }
 
-void Sweep::showRow(Reply& reply) {
+Sweep::RowFate Sweep::showRow(Reply& reply) {
   ServerGrid& grid = c_.mainWindow.grdServers;
   const SkippingSteps step;
   if (grid.columnCount() == 0) {
     SetupGrid(grid);
   }
-  // A listener that waited in the walk may have let another reply take this number.
-  if (reply.row() <= grid.rowCount()) {
+  // A listener that waited in the walk may have let other replies take this number, or the user empty the list.
+  if (reply.row() != grid.rowCount() + 1) {
     reply.number = toInteger16(grid.rowCount() + 1.0);
+    showCount(reply);
   }
   const int row = reply.row();
   grid.redraw.set(false);
@@ -172,7 +182,7 @@ void Sweep::showRow(Reply& reply) {
   const std::uint32_t generation = grid.generation();
   PumpWait(c_.loop, pauseInReply);
   if (grid.generation() != generation) {
-    return;  // The list was emptied meanwhile, and the number belongs to another row now.
+    return RowFate::gone;  // The number belongs to another row now.
   }
   step([&] { grid.setCell(row, cPort, std::to_string(reply.datagram.port)); });
   step([&] { grid.setCell(row, cMap, capitalizeWords(reply.mapName)); });
@@ -183,6 +193,7 @@ void Sweep::showRow(Reply& reply) {
   });
   step([&] { grid.setCell(row, cGameType, capitalizeWords(reply.gameType)); });
   step([&] { grid.setCell(row, cPassword, reply.passwordFlag); });
+  return RowFate::shown;
 }
 
 void Sweep::writeCache(const Reply& reply) {

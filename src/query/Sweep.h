@@ -51,11 +51,13 @@ class Sweep {
 
  private:
   struct Reply;
+  enum class RowFate { shown, gone };  // gone: the list was emptied while the row was being written
 
   void handleReply(const Datagram& datagram);
   void gather(Reply& reply, const SkippingSteps& step);
   void gatherElement(Reply& reply, int i, const SkippingSteps& step);
-  void showRow(Reply& reply);
+  void showCount(const Reply& reply);
+  RowFate showRow(Reply& reply);
   void writeCache(const Reply& reply);
 
   Context c_;

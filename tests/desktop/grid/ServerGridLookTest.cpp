@@ -14,14 +14,19 @@ class ServerGridLookTest : public GridWorld {
  protected:
   QImage picture() { return view.table().viewport()->grab().toImage(); }
 
-  // Left of the text and away from the picture behind the rows.
-  QColor rowColor(int position) { return picture().pixelColor(1, rowPoint(position).y()); }
+  // Places are in device-independent pixels.
+  static QColor colorAt(const QImage& image, QPointF place) {
+    return image.pixelColor((place * image.devicePixelRatio()).toPoint());
+  }
 
-  int count(const QImage& image, const QRect& area, const QColor& wanted) {
+  // Left of the text and away from the picture behind the rows.
+  QColor rowColor(int position) { return colorAt(picture(), QPoint(1, rowPoint(position).y())); }
+
+  static int count(const QImage& image, const QRectF& area, const QColor& wanted) {
     int found = 0;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-      for (int x = area.left(); x <= area.right(); ++x) {
-        found += image.pixelColor(x, y) == wanted ? 1 : 0;
+    for (qreal y = area.top(); y < area.bottom(); ++y) {
+      for (qreal x = area.left(); x < area.right(); ++x) {
+        found += colorAt(image, {x, y}) == wanted ? 1 : 0;
       }
     }
     return found;
@@ -58,7 +63,7 @@ TEST_F(ServerGridLookTest, another_look_is_taken_over_by_the_rows_that_are_shown
   look.rowHeight = 24;
   grid.setLook(look);
   settle();
-  EXPECT_EQ(picture().pixelColor(1, 24 * 2 + 5), QColor(0x30, 0x20, 0x10));
+  EXPECT_EQ(colorAt(picture(), QPoint(1, 24 * 2 + 5)), QColor(0x30, 0x20, 0x10));
 }
 
 TEST_F(ServerGridLookTest, the_selected_row_shines_through_and_its_red_cell_stays_red) {
