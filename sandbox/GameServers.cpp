@@ -26,7 +26,7 @@ union ControlBuffer {
 std::uint32_t destinationOf(msghdr& message) {
   for (cmsghdr* part = CMSG_FIRSTHDR(&message); part != nullptr; part = CMSG_NXTHDR(&message, part)) {
     if (part->cmsg_level == IPPROTO_IP && part->cmsg_type == IP_PKTINFO) {
-      in_pktinfo info;
+      in_pktinfo info{};
       std::memcpy(&info, CMSG_DATA(part), sizeof info);
       return ntohl(info.ipi_addr.s_addr);
     }

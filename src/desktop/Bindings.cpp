@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 
 #include "desktop/Cp1252.h"
 
@@ -15,14 +16,31 @@ Connection bindField(Field<T>& field, Show show) {
   return field.changed.connect([&field, show] { show(field.get()); });
 }
 
+// A number may change with every reply of a sweep, faster than anyone reads: the first change is shown at once, those
+// that follow it closely are shown together.
+Connection bindLabel(QLabel& widget, Field<std::string>& field) {
+  auto* const pause = new QTimer(&widget);
+  pause->setSingleShot(true);
+  pause->setInterval(60);
+  const auto show = [&widget, &field] { widget.setText(fromCp1252(field.get())); };
+  QObject::connect(pause, &QTimer::timeout, &widget, show);
+  show();
+  return field.changed.connect([pause, show] {
+    if (!pause->isActive()) {
+      show();
+      pause->start();
+    }
+  });
+}
+
 }  // namespace
 
 Connection bindCaption(QLabel& widget, Label& model) {
-  return bindField(model.caption, [&widget](const std::string& text) { widget.setText(fromCp1252(text)); });
+  return bindLabel(widget, model.caption);
 }
 
 Connection bindText(QLabel& widget, TextBox& model) {
-  return bindField(model.text, [&widget](const std::string& text) { widget.setText(fromCp1252(text)); });
+  return bindLabel(widget, model.text);
 }
 
 std::vector<Connection> bindButton(QPushButton& widget, Button& model) {

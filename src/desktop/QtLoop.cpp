@@ -31,11 +31,29 @@ void QtLoop::wait(int milliseconds) {
     QCoreApplication::processEvents();
     return;
   }
+  // The wait is over when the tick count says so: waits that follow one another keep in step with the ticks, however
+  // long the work between them took, as long as it is short of a tick.
+  constexpr std::int64_t tick = 1'000'000;  // nanoseconds
+  const std::int64_t now = clock_.nsecsElapsed();
+  const std::int64_t end = (now / tick + milliseconds) * tick;
   QEventLoop loop;
-  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
   waits_.push_back(&loop);
+  PosixAlarm& alarm = alarmOfDepth(waits_.size());
+  if (!alarm.start(end - now)) {
+    QTimer::singleShot(milliseconds + 1, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  }
   loop.exec();
+  alarm.stop();
   waits_.pop_back();
+}
+
+// Each depth of nested waits has one alarm, used again and again.
+PosixAlarm& QtLoop::alarmOfDepth(std::size_t depth) {
+  while (alarms_.size() < depth) {
+    const std::size_t level = alarms_.size();
+    alarms_.push_back(std::make_unique<PosixAlarm>([this, level] { waits_[level]->quit(); }));
+  }
+  return *alarms_[depth - 1];
 }
 
 TimerId QtLoop::startTimer(int milliseconds, TimerKind kind, std::function<void()> due) {

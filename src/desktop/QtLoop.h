@@ -4,8 +4,10 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <map>
+#include <memory>
 #include <vector>
 
+#include "desktop/PosixAlarm.h"
 #include "platform/Loop.h"
 
 class QEventLoop;
@@ -39,11 +41,13 @@ class QtLoop : public QObject, public Loop {
 
   void arm(TimerId id, Running& running);
   void fire(TimerId id);
+  PosixAlarm& alarmOfDepth(std::size_t depth);
 
   QElapsedTimer clock_;
   std::map<TimerId, Running> timers_;
   TimerId lastTimer_ = 0;
   std::vector<QEventLoop*> waits_;  // under way, the innermost last
+  std::vector<std::unique_ptr<PosixAlarm>> alarms_;
   bool ending_ = false;
 };
 

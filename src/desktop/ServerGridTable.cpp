@@ -56,6 +56,7 @@ ServerGridTable::ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidg
   connect(&model_, &ServerGridModel::rearranged, this, [this] {
     doItemsLayout();
     showSelection();
+    viewport()->update();
   });
   connect(&model_, &ServerGridModel::columnsShown, this, &ServerGridTable::applyColumns);
   connect(&model_, &ServerGridModel::lookShown, this, &ServerGridTable::applyLook);
@@ -69,6 +70,7 @@ ServerGridTable::ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidg
       selected_ = row;
       cursorGroup_ = 0;
       showSelection();
+      viewport()->update();
     }
   }));
   applyLook();
@@ -106,6 +108,10 @@ void ServerGridTable::applyLook() {
 // away because of its new text would take the view along.
 void ServerGridTable::rememberSight() {
   sight_.clear();
+  shown_ = entriesInSight();
+  sightChanged_ = std::any_of(shown_.begin(), shown_.end(), [this](ServerGridOrder::Entry entry) {
+    return entry <= 0 || model_.isDirty(entry);  // A group row tells how many rows it has.
+  });
   const int top = verticalScrollBar()->value();
   for (int position = firstInSight(); position * pitch() < top + viewport()->height(); ++position) {
     const ServerGridOrder::Entry entry = model_.entryAt(position);
@@ -133,7 +139,30 @@ void ServerGridTable::restoreSight() {
   }
   sight_.clear();
   showSelection();
+  if (sightChanged_ || entriesInSight() != shown_) {
+    viewport()->update();
+  }
 }
+
+std::vector<ServerGridOrder::Entry> ServerGridTable::entriesInSight() const {
+  std::vector<ServerGridOrder::Entry> entries;
+  const int end = verticalScrollBar()->value() + viewport()->height();
+  for (int position = firstInSight(); position * pitch() < end && position < model_.rowCount(); ++position) {
+    entries.push_back(model_.entryAt(position));
+  }
+  return entries;
+}
+
+// The base class paints everything anew whenever rows come, also those that come far out of sight: in a sweep that is
+// most of the work. Here a batch finds out for itself whether anything in sight has changed.
+void ServerGridTable::doItemsLayout() {
+  updateGeometries();
+  verticalHeader()->setOffset(verticalScrollBar()->value());
+  verticalHeader()->setUpdatesEnabled(true);
+}
+
+void ServerGridTable::dataChanged(const QModelIndex& /*first*/, const QModelIndex& /*last*/,
+                                  const QList<int>& /*roles*/) {}
 
 void ServerGridTable::showSelection() {
   const int position = model_.positionOf(selected_);
@@ -147,13 +176,13 @@ void ServerGridTable::showSelection() {
   if (cursor != selectionModel()->currentIndex()) {
     selectionModel()->setCurrentIndex(cursor, QItemSelectionModel::NoUpdate);
   }
-  viewport()->update();
 }
 
 void ServerGridTable::putCursorOn(ServerGridOrder::Entry entry) {
   cursorGroup_ = entry < 0 ? entry : 0;
   selected_ = entry > 0 ? entry : selected_;
   showSelection();
+  viewport()->update();
 }
 
 int ServerGridTable::cursorPosition() const {

@@ -23,7 +23,10 @@ class ServerGridTable : public QTableView {
   // To be called before the groups become others: the keys no longer stand on a group row.
   void forgetGroup() { cursorGroup_ = 0; }
 
+  void doItemsLayout() override;
+
  protected:
+  void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
   void paintEvent(QPaintEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -48,6 +51,7 @@ class ServerGridTable : public QTableView {
   void rememberSight();
   void restoreSight();
   void showSelection();
+  std::vector<ServerGridOrder::Entry> entriesInSight() const;
 
   void press(QMouseEvent* event);
   void toggle(ServerGridOrder::Entry group);
@@ -69,6 +73,8 @@ class ServerGridTable : public QTableView {
   int stripeShift_ = 0;                     // keeps each row's shade when rows come in above it
   bool toTop_ = false;                      // the grid was cleared since the last batch
   std::vector<Sight> sight_;
+  std::vector<ServerGridOrder::Entry> shown_;  // in sight before the batch
+  bool sightChanged_ = false;                  // one of them has another text
   QPixmap backdrop_;
   std::vector<Connection> connections_;
 };
