@@ -16,8 +16,8 @@
 namespace vantrel {
 namespace {
 
-constexpr std::uint64_t largestFile = 64 * 1024 * 1024;  // bytes; no store is near that
-constexpr mode_t newFileMode = 0600;                     // favorites hold passwords
+constexpr std::uint64_t largestFile = 256 * 1024 * 1024;  // bytes; no store is near that
+constexpr mode_t newFileMode = 0600;                      // favorites hold passwords
 
 Failure failureOf(int error) {
   switch (error) {

@@ -4,6 +4,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "desktop/ServerGridIcons.h"
 
@@ -16,6 +17,14 @@ constexpr int iconSize = 14;
 constexpr int widestFit = 480;
 constexpr int longestLine = 1024;
 constexpr int longestToolTip = 1024;
+
+constexpr int narrowest = 75;  // percent of a font's width
+
+bool isNumberLike(const QString& text) {
+  return text.size() <= 24 && std::all_of(text.begin(), text.end(), [](QChar character) {
+           return (character >= u'0' && character <= u'9') || character == u'.' || character == u'/';
+         });
+}
 
 QColor textColor(const GridCell& cell, const GridLook& look, bool selected) {
   // White is the colour of a cell that nobody gave one, so that it follows the look and the selection.
@@ -40,6 +49,21 @@ void paintPatch(QPainter* painter, const QRect& text, const QColor& ground) {
 QString elidedLine(const QString& text, const QFontMetrics& metrics, int width) {
   const QString measurable = text.size() > longestLine ? text.left(longestLine) + QChar(0x2026) : text;
   return metrics.elidedText(measurable, Qt::ElideRight, width);
+}
+
+FittedLine fittedLine(const QString& text, const QFont& font, int width) {
+  const QFontMetrics metrics(font);
+  if (isNumberLike(text)) {
+    const int advance = metrics.horizontalAdvance(text);
+    for (int percent = advance > width ? 100 * width / advance : 100; percent >= narrowest; --percent) {
+      QFont narrow = font;
+      narrow.setStretch(percent);
+      if (QFontMetrics(narrow).horizontalAdvance(text) <= width) {
+        return {text, narrow};
+      }
+    }
+  }
+  return {elidedLine(text, metrics, width), font};
 }
 
 ServerGridDelegate::ServerGridDelegate(const ServerGrid& grid, const ServerGridModel& model, QObject* parent)
@@ -70,9 +94,9 @@ void ServerGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   }
   const QRect place = textRect(option.rect, index);
   const int flags = index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine;
-  const QString line = elidedLine(text, option.fontMetrics, place.width());
+  const auto [line, font] = fittedLine(text, option.font, place.width());
   const bool selected = option.state.testFlag(QStyle::State_Selected);
-  painter->setFont(option.font);
+  painter->setFont(font);
   if (selected && cell.color != colors::white) {
     paintPatch(painter, painter->boundingRect(place, flags, line), gridColor(grid_.look().background));
   }
@@ -91,7 +115,7 @@ QSize ServerGridDelegate::sizeHint(const QStyleOptionViewItem& option, const QMo
 
 bool ServerGridDelegate::isCut(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QString text = index.data(Qt::DisplayRole).toString();
-  return elidedLine(text, option.fontMetrics, textRect(option.rect, index).width()) != text;
+  return fittedLine(text, option.font, textRect(option.rect, index).width()).text != text;
 }
 
 bool ServerGridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

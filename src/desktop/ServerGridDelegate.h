@@ -32,6 +32,15 @@ class ServerGridDelegate : public QStyledItemDelegate {
   const ServerGridModel& model_;
 };
 
+struct FittedLine {
+  QString text;
+  QFont font;
+};
+
+// One line of `text` that fits into `width`: as it is, or, for a number or an address, narrower by up to a quarter,
+// since one that is cut says something else than it should; else with an ellipsis.
+FittedLine fittedLine(const QString& text, const QFont& font, int width);
+
 // One line of `text` that fits into `width`; never measures more of a hostile text than a row could show.
 QString elidedLine(const QString& text, const QFontMetrics& metrics, int width);
 

@@ -52,7 +52,7 @@ void applyTheme(QApplication& application) {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(darkPalette());
   QFont font;
-  font.setFamilies({"Tahoma", "Noto Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
+  font.setFamilies({"Tahoma", "Liberation Sans", "Noto Sans", "DejaVu Sans Condensed", "DejaVu Sans"});
   font.setPointSizeF(8.25);
   QApplication::setFont(font);
   application.setStyleSheet(styleSheet);

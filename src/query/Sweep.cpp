@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "core/FailureStyles.h"
 #include "core/Numbers.h"
@@ -14,6 +15,11 @@ namespace {
 
 constexpr const char* statusQuery = "\\status";
 constexpr int pauseInReply = 10;  // milliseconds
+
+// No server's reply is longer than this; of replies that are, a list takes so many bytes whole and then cuts them.
+// Thousands of them, thrown at the program to fill memory and disk, come to no more than thousands of real ones.
+constexpr std::size_t longestReply = 2048;                   // bytes
+constexpr std::size_t oversizedAllowance = 8 * 1024 * 1024;  // bytes
 
 // One of the running totals: the number that stood in its field when the reply came, and what the reply adds to it. The
 // field is written by adding to what stands there then, since other replies may have been handled in between.
@@ -40,8 +46,8 @@ class Counter {
 
 // The working values of one reply.
 struct Sweep::Reply {
-  Reply(const Datagram& arrived, frmMain& window)
-      : datagram(arrived),
+  Reply(Datagram arrived, frmMain& window)
+      : datagram(std::move(arrived)),
         counters{Counter(window.txtPlayers), Counter(window.txtCTF), Counter(window.txtSlayer),
                  Counter(window.txtOther)} {}
 
@@ -87,7 +93,7 @@ void Sweep::QueryServer(const std::string& ip, int port) {
 
 void Sweep::handleReply(const Datagram& datagram) {
   frmMain& window = c_.mainWindow;
-  Reply reply(datagram, window);
+  Reply reply({takeBytes(datagram), datagram.ip, datagram.port}, window);
   c_.progress.noteReply(reply.datagram.ip, reply.datagram.port);
   const auto showCount = [&] { this->showCount(reply); };
   // Whatever fails in here, the reply still makes a row with what was gathered.
@@ -117,6 +123,19 @@ void Sweep::handleReply(const Datagram& datagram) {
   if (fate == RowFate::shown) {
     step([&] { rowAdded.fire(reply.row()); });
   }
+}
+
+std::string Sweep::takeBytes(const Datagram& datagram) {
+  const std::uint32_t generation = c_.mainWindow.grdServers.generation();
+  if (oversizedGeneration_ != generation) {
+    oversizedGeneration_ = generation;
+    oversizedBytes_ = 0;
+  }
+  if (datagram.bytes.size() <= longestReply) {
+    return datagram.bytes;
+  }
+  oversizedBytes_ += datagram.bytes.size();
+  return oversizedBytes_ <= oversizedAllowance ? datagram.bytes : datagram.bytes.substr(0, longestReply);
 }
 
 void Sweep::showCount(const Reply& reply) {

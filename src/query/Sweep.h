@@ -4,6 +4,7 @@
 // events in while it writes the row: replies are handled inside one another.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -54,6 +55,7 @@ class Sweep {
   enum class RowFate { shown, gone };  // gone: the list was emptied while the row was being written
 
   void handleReply(const Datagram& datagram);
+  std::string takeBytes(const Datagram& datagram);
   void gather(Reply& reply, const SkippingSteps& step);
   void gatherElement(Reply& reply, int i, const SkippingSteps& step);
   void showCount(const Reply& reply);
@@ -61,6 +63,8 @@ class Sweep {
   void writeCache(const Reply& reply);
 
   Context c_;
+  std::size_t oversizedBytes_ = 0;         // of the replies that this list has taken whole though they were too long
+  std::uint32_t oversizedGeneration_ = 0;  // of the list that they went to
 };
 
 }  // namespace vantrel

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 #include "app/AppDir.h"
@@ -32,9 +33,13 @@ int main(int argc, char** argv) {
   QApplication::setApplicationDisplayName("Vantrel CE");
   QApplication application(argc, argv);
   vantrel::applyTheme(application);
-  vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE}, vantrel::findAppDir());
-  vantrel::PosixEndSignals endSignals;
-  const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });
-  program.run();
-  return 0;
+  {
+    vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE}, vantrel::findAppDir());
+    vantrel::PosixEndSignals endSignals;
+    const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });
+    program.run();
+  }
+  // The stores are on disk. The toolkit would now wait for a name lookup that is still under way, for as long as the
+  // name server is silent.
+  std::quick_exit(0);
 }
