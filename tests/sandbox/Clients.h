@@ -1,7 +1,5 @@
 #pragma once
 
-#include <netinet/in.h>
-#include <poll.h>
 #include <sys/socket.h>
 
 #include <cerrno>
@@ -12,9 +10,8 @@
 
 namespace vantrel::sandbox {
 
-/// How long a test waits for something that must come, in milliseconds.
+/// How long a test waits for what must come, and how long it listens for what must not, in milliseconds.
 constexpr int kPatience = 5000;
-/// How long a test listens for something that must not come.
 constexpr int kShort = 40;
 
 /// A world on any free ports, without latency, in which everybody answers.
@@ -27,73 +24,44 @@ inline WorldSettings quickWorld(std::size_t servers) {
   return settings;
 }
 
-inline bool canRead(const Descriptor& socket, int milliseconds) {
-  pollfd readable{socket.number(), POLLIN, 0};
-  return poll(&readable, 1, milliseconds) > 0;
-}
-
-/// A player's UDP socket.
-class UdpClient {
- public:
-  bool send(const std::string& text, const Endpoint& to) {
-    sockaddr_in address = socketAddress(to);
-    return sendto(socket.number(), text.data(), text.size(), 0, reinterpret_cast<sockaddr*>(&address),
-                  sizeof address) >= 0;
-  }
-  /// The next datagram, or "nothing" if none comes in time; `source` is then as it was.
-  std::string receive(int milliseconds = kPatience) {
-    if (!canRead(socket, milliseconds)) {
-      return "nothing";
-    }
-    sockaddr_in address{};
-    socklen_t size = sizeof address;
-    std::string text(65536, '\0');
-    const ssize_t length =
-        recvfrom(socket.number(), text.data(), text.size(), 0, reinterpret_cast<sockaddr*>(&address), &size);
-    source = endpointOf(address);
-    return length < 0 ? "failed" : text.substr(0, static_cast<std::size_t>(length));
-  }
-
-  Descriptor socket = openUdp({INADDR_LOOPBACK, 0});
-  Endpoint source;
+struct RunningWorld : SandboxWorld {
+  explicit RunningWorld(const WorldSettings& settings) : SandboxWorld(settings) { start(); }
 };
 
-/// A client of the master server.
-class MasterClient {
+/// A socket of a player's: one for datagrams to and from anybody, or one that is connected.
+class Client {
  public:
-  explicit MasterClient(const SandboxWorld& world) {
-    // A small window makes the master server wait for this client when it sends much.
-    const int windowBytes = 1 << 16;
-    setsockopt(socket.number(), SOL_SOCKET, SO_RCVBUF, &windowBytes, sizeof windowBytes);
-    sockaddr_in address = socketAddress(loopbackEndpoint(world.masterAddress(), world.masterPort()));
-    throwIf(connect(socket.number(), reinterpret_cast<sockaddr*>(&address), sizeof address) != 0, "no master server");
+  Client() : socket(::socket(AF_INET, SOCK_DGRAM, 0)) {}
+  Client(int type, const Endpoint& server) : socket(::socket(AF_INET, type, 0)) {
+    sockaddr_in address = socketAddress(server);
+    throwIf(connect(socket.number(), reinterpret_cast<sockaddr*>(&address), sizeof address) != 0, "no connection");
   }
   void send(const std::string& text) { ::send(socket.number(), text.data(), text.size(), MSG_NOSIGNAL); }
-
-  /// One arrival; "" at the end of the connection, "reset" at a reset, "nothing" if none comes in time.
-  std::string receive(int milliseconds = kPatience) {
-    if (!canRead(socket, milliseconds)) {
-      return "nothing";
-    }
-    std::string text(1 << 16, '\0');
-    const ssize_t length = recv(socket.number(), text.data(), text.size(), 0);
-    return length < 0 ? "reset" : text.substr(0, static_cast<std::size_t>(length));
-  }
-  std::string receiveBytes(std::size_t count) {
-    std::string text;
-    while (text.size() < count) {
-      const std::string arrival = receive();
-      if (arrival.empty() || arrival == "nothing" || arrival == "reset") {
-        return "only " + std::to_string(text.size()) + " bytes";
-      }
-      text += arrival;
-      ++arrivals;
-    }
-    return text;
+  void sendTo(const Endpoint& server, const std::string& text) {
+    sockaddr_in address = socketAddress(server);
+    sendto(socket.number(), text.data(), text.size(), 0, reinterpret_cast<sockaddr*>(&address), sizeof address);
   }
 
-  Descriptor socket{::socket(AF_INET, SOCK_STREAM, 0)};
-  int arrivals = 0;
+  /// One arrival, or `whole` bytes of a connection in one. "" is the end of a connection, "failed" a refusal or a
+  /// reset, "nothing" that none came in time.
+  std::string receive(int milliseconds = kPatience, std::size_t whole = 0) {
+    const timeval patience{milliseconds / 1000, milliseconds % 1000 * 1000};
+    setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    sockaddr_in from{};
+    socklen_t size = sizeof from;
+    std::string text(whole != 0 ? whole : 1 << 16, '\0');
+    const ssize_t length = recvfrom(socket.number(), text.data(), text.size(), whole != 0 ? MSG_WAITALL : 0,
+                                    reinterpret_cast<sockaddr*>(&from), &size);
+    if (length < 0) {
+      return errno == EAGAIN ? "nothing" : "failed";
+    }
+    source = endpointOf(from);
+    return text.substr(0, static_cast<std::size_t>(length));
+  }
+  std::string receiveBytes(std::size_t count) { return receive(kPatience, count); }
+
+  Descriptor socket;
+  Endpoint source;  ///< of the last datagram
 };
 
 }  // namespace vantrel::sandbox

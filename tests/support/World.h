@@ -5,38 +5,65 @@
 #include <string>
 #include <vector>
 
-#include "core/AppFolder.h"
 #include "core/Commands.h"
-#include "core/ProfileFiles.h"
-#include "core/SideWindows.h"
-#include "core/Site.h"
 #include "core/StoreRewrites.h"
-#include "core/frmMain.h"
-#include "core/modFavesIni.h"
 #include "query/MasterExchange.h"
-#include "query/Sweep.h"
 #include "support/FakeFiles.h"
 #include "support/FakeNetwork.h"
-#include "support/FakeNotices.h"
-#include "support/VirtualLoop.h"
 
 namespace vantrel {
 
+// Keeps what the user was told.
+struct FakeNotices : Notices {
+  void ShowPopMsg(const std::string& text) override { log.push_back(text); }
+  void popUpBalloon(const std::string& text, const std::string& title) override { log.push_back(title + text); }
+
+  std::vector<std::string> log;
+};
+
 struct World {
-  World();
+  World() {
+    files.makeFolder("/app");
+    commands.add(32, [this] { exchange.start(); });
+  }
 
   // The server that command 32 talks to.
   FakeServer& master() { return network.servers["master.example.test:28900"]; }
   // A reply of a game server, asked for or not, as of now.
-  void reply(const std::string& bytes, const std::string& ip = "192.0.2.1", int port = 2302);
+  void reply(const std::string& bytes, const std::string& ip = "192.0.2.1", int port = 2302) {
+    ws2.receive(0, {bytes, ip, port});
+  }
   // The cells of a row with "|" between them.
-  std::string row(int number) const;
-  // The list's rows as the user sees them, hidden ones included.
-  std::vector<std::string> rows() const;
+  std::string row(int number) const {
+    std::string cells;
+    for (int column = 1; column <= mainWindow.grdServers.columnCount(); ++column) {
+      cells += (column > 1 ? "|" : "") + mainWindow.grdServers.cellText(number, column);
+    }
+    return cells;
+  }
+  // The list's rows as the user sees them.
+  std::vector<std::string> rows() const {
+    std::vector<std::string> all;
+    for (int number = 1; number <= mainWindow.grdServers.rowCount(); ++number) {
+      all.push_back(row(number));
+    }
+    return all;
+  }
   // The running totals: players, CTF, Slayer, other.
-  std::string totals() const;
+  std::string totals() const {
+    const frmMain& window = mainWindow;
+    return window.txtPlayers.text.get() + " " + window.txtCTF.text.get() + " " + window.txtSlayer.text.get() + " " +
+           window.txtOther.text.get();
+  }
   // The addresses that were sent a status query, in order: "192.0.2.1:2302 192.0.2.2:2302 ".
-  std::string asked() const;
+  std::string asked() const {
+    std::string all;
+    for (const std::string& line : network.log) {
+      const std::size_t end = line.find(" > \\status");
+      all += end == std::string::npos ? "" : line.substr(line.find(' ') + 1, end - line.find(' '));
+    }
+    return all;
+  }
   // Path of a file in the program's folder.
   static std::string path(const std::string& name) { return "/app/" + name; }
   std::string onDisk(const std::string& name) const { return files.bytes(path(name)); }
@@ -44,7 +71,7 @@ struct World {
   VirtualLoop loop;
   FakeFiles files;
   FakeNetwork network{loop};
-  FakeNotices notices{loop};
+  FakeNotices notices;
   Site site{"master.example.test", "http://maps.example.test/maps/", "http://maps.example.test/"};
   AppFolder folder{files, "/app"};
   frmMain mainWindow{loop};
@@ -64,9 +91,17 @@ struct World {
 };
 
 // A reply with a name and whatever keys and values follow, like "mapname\bloodgulch".
-std::string statusReply(const std::string& name, const std::string& rest = "");
+inline std::string statusReply(const std::string& name, const std::string& rest = "") {
+  return "\\hostname\\" + name + (rest.empty() ? "" : "\\" + rest);
+}
 
 // The six bytes of a master server's list for an address and port.
-std::string listRecord(const std::string& ip, int port);
+inline std::string listRecord(const std::string& ip, int port) {
+  std::string record;
+  for (const std::string& byte : split(ip, '.')) {
+    record += static_cast<char>(std::stoi(byte));
+  }
+  return record + static_cast<char>(port / 256) + static_cast<char>(port % 256);
+}
 
 }  // namespace vantrel

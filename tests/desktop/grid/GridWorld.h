@@ -4,44 +4,35 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QMouseEvent>
+#include <QImage>
 #include <QScrollBar>
 #include <QTest>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/ServerGridView.h"
 
 namespace vantrel {
 
-class GridWorld : public testing::Test {
- protected:
-  static constexpr int name = 1;
-  static constexpr int ping = 2;
-  static constexpr int map = 3;
-  static constexpr int players = 4;
+struct GridWorld : testing::Test {
+  enum Column { name = 1, ping, map };
 
   GridWorld() {
-    GridLook look;
-    look.groupingHint = "Drag columns here for advanced filtering:";
-    grid.setLook(look);
     grid.addColumn({"cName", "Server Name ", Alignment::left, 0, 165, 102});
     grid.addColumn({"cPing", "", Alignment::left, 4, 50, 102});
     grid.addColumn({"cMap", "Map", Alignment::left, 0, 100, 0});
-    grid.addColumn({"cPlayers", "", Alignment::left, 3, 45, 102});
     view.resize(600, 300);
     view.show();
     settle();
   }
 
-  int add(const std::string& text, const std::string& pingText, const std::string& mapText = "hall") {
+  void add(const std::string& text, const std::string& pingText, const std::string& mapText = "hall") {
     const int row = grid.rowCount() + 1;
     grid.setCell(row, name, text);
     grid.setCell(row, ping, pingText);
     grid.setCell(row, map, mapText);
-    return row;
   }
-
   void addMany(int count) {
     for (int i = 0; i < count; ++i) {
       add("server " + std::to_string(i), std::to_string(100 + i) + " ms", i % 2 == 0 ? "hall" : "cave");
@@ -64,45 +55,48 @@ class GridWorld : public testing::Test {
     }
     return all;
   }
-  QString shownText(int position) { return view.model().index(position, 0).data().toString(); }
-
+  std::string shownText(int position) { return view.model().index(position, 0).data().toString().toStdString(); }
   // The model's row number that is drawn as selected; 0 when none is.
   int selectedRow() {
     const QModelIndexList rows = view.table().selectionModel()->selectedRows();
     return rows.isEmpty() ? 0 : entry(rows.first().row());
   }
+  QImage picture() { return view.table().viewport()->grab().toImage(); }
+  // What the grid told the program since the last call.
+  std::string heard() { return std::exchange(told, {}); }
 
-  QPoint rowPoint(int position, int x = 100) { return {x, view.table().rowViewportPosition(position) + 9}; }
+  QPoint rowPoint(int position, int x = 100) {
+    return {x, position * grid.look().rowHeight + 9 - view.table().verticalScrollBar()->value()};
+  }
   void press(int position, Qt::MouseButton button = Qt::LeftButton, int x = 100) {
     QTest::mouseClick(view.table().viewport(), button, {}, rowPoint(position, x));
   }
   void key(Qt::Key pressed) { QTest::keyClick(&view.table(), pressed); }
 
   QPoint headerPoint(int column) {
-    ServerGridHeader& header = view.header();
-    return {header.sectionViewportPosition(column - 1) + header.sectionSize(column - 1) / 2, header.height() / 2};
+    return {view.header().sectionViewportPosition(column - 1) + view.header().sectionSize(column - 1) / 2, 10};
   }
   void clickHeader(int column) { QTest::mouseClick(view.header().viewport(), Qt::LeftButton, {}, headerPoint(column)); }
-
-  // A drag as the window system would send it: both points in the coordinates of the widget that was pressed.
+  // Both points in the coordinates of the widget that is pressed.
   static void drag(QWidget& widget, QPoint from, QPoint to) {
-    const auto send = [&widget](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons) {
-      QMouseEvent event(type, at, widget.mapToGlobal(at), button, buttons, Qt::NoModifier);
-      QCoreApplication::sendEvent(&widget, &event);
-    };
-    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
     for (int step = 1; step <= 10; ++step) {
-      send(QEvent::MouseMove, from + (to - from) * step / 10, Qt::NoButton, Qt::LeftButton);
+      QTest::mouseMove(&widget, from + (to - from) * step / 10);
     }
-    send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
   }
-  void dragHeaderToBar(int column) {
+  void dragHeader(int column, QWidget& target, QPoint place) {
     QWidget& header = *view.header().viewport();
-    drag(header, headerPoint(column), header.mapFromGlobal(view.groupingBar().mapToGlobal(QPoint(20, 10))));
+    drag(header, headerPoint(column), header.mapFromGlobal(target.mapToGlobal(place)));
   }
 
   ServerGrid grid;
   ServerGridView view{grid};
+  std::string told;
+  Connection selecting = grid.rowSelected.connect(
+      [this](int row, int column) { told += "select " + std::to_string(row) + "," + std::to_string(column) + " "; });
+  Connection pressing = grid.mouseButton.connect(
+      [this](MouseButton button) { told += button == MouseButton::right ? "right " : "left "; });
 };
 
 }  // namespace vantrel
