@@ -40,9 +40,9 @@ class Program {
   Site site_;
   QtLoop loop_;
   DiskFiles files_;
-  QtNotices notices_;
-  PosixTcpSocket ws1_;
-  PosixUdpSocket ws2_;
+  QtNotices notices_{loop_};
+  PosixTcpSocket ws1_{loop_.nesting()};
+  PosixUdpSocket ws2_{loop_.nesting()};
   AppFolder folder_;
   frmMain frmMain_;
   frmBuddies frmBuddies_;

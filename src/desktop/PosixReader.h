@@ -6,8 +6,7 @@
 
 namespace vantrel {
 
-// The call comes from the event loop, also nested inside a wait of a call under way, but at most `maximumNesting` deep:
-// then what arrives stays where it is until the whole stack has come down. May be destroyed inside its own call.
+// The call comes from the event loop, also nested inside a wait of a call under way. May be destroyed inside its call.
 class PosixReader {
  public:
   // `descriptor` stays the owner's, who closes it after this is destroyed.
@@ -15,6 +14,9 @@ class PosixReader {
   PosixReader(const PosixReader&) = delete;
   PosixReader& operator=(const PosixReader&) = delete;
   ~PosixReader();
+
+  // While it is disabled, what arrives stays where it is.
+  void setEnabled(bool enabled);
 
  private:
   struct State;

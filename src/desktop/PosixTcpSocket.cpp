@@ -43,6 +43,13 @@ socklen_t systemAddress(const QHostAddress& host, int port, sockaddr_storage& st
 
 }  // namespace
 
+PosixTcpSocket::PosixTcpSocket(ArrivalNesting& nesting)
+    : gate_(nesting, [this] {
+        if (reader_) {
+          reader_->setEnabled(gate_.isOpen());
+        }
+      }) {}
+
 PosixTcpSocket::~PosixTcpSocket() {
   close();
 }
@@ -144,7 +151,8 @@ void PosixTcpSocket::finishConnecting() {
   }
   addresses_.clear();
   state_ = SocketState::connected;
-  reader_ = std::make_unique<PosixReader>(descriptor_, [this] { read(); });
+  reader_ = std::make_unique<PosixReader>(descriptor_, [this] { gate_.run([this] { read(); }); });
+  reader_->setEnabled(gate_.isOpen());
 }
 
 void PosixTcpSocket::send(const std::string& bytes) {

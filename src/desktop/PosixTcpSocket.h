@@ -6,6 +6,7 @@
 #include <deque>
 #include <memory>
 
+#include "desktop/ArrivalNesting.h"
 #include "desktop/PosixReader.h"
 #include "platform/Sockets.h"
 
@@ -15,7 +16,8 @@ namespace vantrel {
 
 class PosixTcpSocket : public QObject, public TcpSocket {
  public:
-  PosixTcpSocket() = default;
+  // `nesting` must outlive the socket.
+  explicit PosixTcpSocket(ArrivalNesting& nesting);
   ~PosixTcpSocket() override;
 
   void connect(const std::string& host, int port) override;
@@ -35,6 +37,7 @@ class PosixTcpSocket : public QObject, public TcpSocket {
   void dropDescriptor();
   void end(SocketState state);
 
+  ArrivalNesting::Gate gate_;
   SocketState state_ = SocketState::closed;
   int descriptor_ = -1;
   int port_ = 0;

@@ -38,10 +38,17 @@ sockaddr_in destination(const std::string& ip, int port) {
 // A refusal of an earlier datagram fails the next send, whatever its address, and the datagram is then not sent.
 bool isOfEarlierDatagram(int error) {
   return error == ECONNREFUSED || error == EHOSTUNREACH || error == ENETUNREACH || error == EHOSTDOWN ||
-         error == EPROTO || error == ENOPROTOOPT;
+         error == EPROTO || error == ENOPROTOOPT || error == ENONET || error == EOPNOTSUPP || error == EMSGSIZE;
 }
 
 }  // namespace
+
+PosixUdpSocket::PosixUdpSocket(ArrivalNesting& nesting)
+    : gate_(nesting, [this] {
+        if (reader_) {
+          reader_->setEnabled(gate_.isOpen());
+        }
+      }) {}
 
 PosixUdpSocket::~PosixUdpSocket() {
   close();
@@ -55,7 +62,8 @@ void PosixUdpSocket::open() {
   const int on = 1;
   ::setsockopt(descriptor_, IPPROTO_IP, IP_RECVERR, &on, sizeof on);
   ::setsockopt(descriptor_, SOL_SOCKET, SO_RCVBUF, &receiveBuffer, sizeof receiveBuffer);
-  reader_ = std::make_unique<PosixReader>(descriptor_, [this] { read(); });
+  reader_ = std::make_unique<PosixReader>(descriptor_, [this] { gate_.run([this] { read(); }); });
+  reader_->setEnabled(gate_.isOpen());
 }
 
 void PosixUdpSocket::close() {
@@ -85,7 +93,7 @@ void PosixUdpSocket::send(const std::string& ip, int port, const std::string& by
     if (sent >= 0) {
       return;
     }
-    if (errno == EAGAIN) {
+    if (errno == EAGAIN || errno == ENOBUFS) {
       pollfd writable{descriptor_, POLLOUT, 0};
       ::poll(&writable, 1, 5);
     } else if (!isOfEarlierDatagram(errno) && errno != EINTR) {

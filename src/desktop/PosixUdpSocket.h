@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "desktop/ArrivalNesting.h"
 #include "desktop/PosixReader.h"
 #include "platform/Sockets.h"
 
@@ -11,7 +12,8 @@ namespace vantrel {
 
 class PosixUdpSocket : public UdpSocket {
  public:
-  PosixUdpSocket() = default;
+  // `nesting` must outlive the socket.
+  explicit PosixUdpSocket(ArrivalNesting& nesting);
   ~PosixUdpSocket() override;
 
   void send(const std::string& ip, int port, const std::string& bytes) override;
@@ -35,6 +37,7 @@ class PosixUdpSocket : public UdpSocket {
   std::optional<Refusal> takeRefusal() const;
   std::optional<Datagram> takeDatagram() const;
 
+  ArrivalNesting::Gate gate_;
   int descriptor_ = -1;
   std::unique_ptr<PosixReader> reader_;
   std::function<void(const Datagram&)> arrival_;

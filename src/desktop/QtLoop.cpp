@@ -37,6 +37,7 @@ void QtLoop::wait(int milliseconds) {
   const std::int64_t now = clock_.nsecsElapsed();
   const std::int64_t end = (now / tick + milliseconds) * tick;
   QEventLoop loop;
+  const ArrivalNesting::Wait nested(nesting_);
   waits_.push_back(&loop);
   PosixAlarm& alarm = alarmOfDepth(waits_.size());
   if (!alarm.start(end - now)) {

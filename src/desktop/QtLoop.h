@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/ArrivalNesting.h"
 #include "desktop/PosixAlarm.h"
 #include "platform/Loop.h"
 
@@ -28,6 +29,9 @@ class QtLoop : public QObject, public Loop {
   std::string dateAndTime() const override;
   bool ending() const override { return ending_; }
 
+  // What the sockets of this loop share.
+  ArrivalNesting& nesting() { return nesting_; }
+
   // Ends all waits, and from now on no wait waits. The application calls it when it is about to quit.
   void beginEnding();
 
@@ -43,6 +47,7 @@ class QtLoop : public QObject, public Loop {
   void fire(TimerId id);
   PosixAlarm& alarmOfDepth(std::size_t depth);
 
+  ArrivalNesting nesting_;
   QElapsedTimer clock_;
   std::map<TimerId, Running> timers_;
   TimerId lastTimer_ = 0;

@@ -1,7 +1,6 @@
 #include "desktop/QtNotices.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
@@ -16,6 +15,7 @@ namespace {
 
 constexpr int popMsgTime = 5000;   // milliseconds
 constexpr int balloonTime = 8000;  // milliseconds
+constexpr int lookInterval = 20;   // milliseconds
 constexpr int margin = 16;
 
 }  // namespace
@@ -71,7 +71,7 @@ class NoticeWindow : public QFrame {
   QTimer timer_;
 };
 
-QtNotices::QtNotices() = default;
+QtNotices::QtNotices(Loop& loop) : loop_(loop) {}
 
 QtNotices::~QtNotices() = default;
 
@@ -84,10 +84,12 @@ void QtNotices::ShowPopMsg(const std::string& text) {
 
 void QtNotices::popUpBalloon(const std::string& text, const std::string& title) {
   NoticeWindow balloon;
-  QEventLoop loop;
-  const Connection ended = balloon.ended.connect([&loop] { loop.quit(); });
+  bool ended = false;
+  const Connection listening = balloon.ended.connect([&ended] { ended = true; });
   balloon.present(fromCp1252(title.empty() ? "Vantrel CE" : title), fromCp1252(text), balloonTime);
-  loop.exec();
+  while (!ended && !loop_.ending()) {
+    loop_.wait(lookInterval);
+  }
 }
 
 }  // namespace vantrel

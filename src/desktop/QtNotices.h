@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "platform/Loop.h"
 #include "platform/Notices.h"
 
 class QWidget;
@@ -13,7 +14,8 @@ class NoticeWindow;
 
 class QtNotices : public Notices {
  public:
-  QtNotices();
+  // `loop` must outlive the notices.
+  explicit QtNotices(Loop& loop);
   QtNotices(const QtNotices&) = delete;
   QtNotices& operator=(const QtNotices&) = delete;
   ~QtNotices() override;
@@ -22,6 +24,7 @@ class QtNotices : public Notices {
   void popUpBalloon(const std::string& text, const std::string& title) override;
 
  private:
+  Loop& loop_;
   std::unique_ptr<NoticeWindow> popMsg_;
 };
 

@@ -194,5 +194,21 @@ TEST_F(SweepTest, two_replies_share_no_row_and_lose_no_count_and_a_list_emptied_
   EXPECT_EQ(mainWindow.lblCount.caption.get(), "Server Count: 1");
 }
 
+TEST_F(SweepTest, a_list_takes_eight_megabytes_of_oversized_replies_whole_and_cuts_those_behind_until_it_is_emptied) {
+  const std::string name(60'000, 'x');
+  const auto lastName = [this, &name] {
+    replyAndWait(statusReply(name));
+    return mainWindow.grdServers.cellText(mainWindow.grdServers.rowCount(), cName).size();
+  };
+  for (int i = 0; i < 139; ++i) {
+    ASSERT_EQ(lastName(), name.size());
+  }
+  EXPECT_LT(lastName(), 2048U);
+  replyAndWait(statusReply("Fun", full));
+  EXPECT_EQ(rows().back(), fun);
+  mainWindow.grdServers.clear();
+  EXPECT_EQ(lastName(), name.size());
+}
+
 }  // namespace
 }  // namespace vantrel

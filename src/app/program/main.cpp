@@ -34,8 +34,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   vantrel::applyTheme(application);
   {
+    vantrel::PosixEndSignals endSignals;  // kept to the end, so that a second request does not cut off the last write
     vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE}, vantrel::findAppDir());
-    vantrel::PosixEndSignals endSignals;
     const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });
     program.run();
   }

@@ -63,7 +63,7 @@ struct RealUdp : RealLoop {
     return free.localPort();
   }
 
-  PosixUdpSocket socket_;
+  PosixUdpSocket socket_{loop_.nesting()};
   std::map<int, std::vector<std::string>> received_;
   std::vector<std::unique_ptr<QUdpSocket>> peers_;
 };
@@ -93,7 +93,7 @@ struct RealTcp : RealLoop {
   QTcpServer server_;
   QTcpSocket* last_ = nullptr;
   std::string received_;
-  PosixTcpSocket socket_;
+  PosixTcpSocket socket_{loop_.nesting()};
 };
 
 struct RealFiles {

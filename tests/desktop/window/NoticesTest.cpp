@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "desktop/ProgressLine.h"
+#include "desktop/QtLoop.h"
 #include "desktop/QtNotices.h"
 
 namespace vantrel {
@@ -31,7 +32,8 @@ QStringList noticeOnScreen(QWidget** window = nullptr) {
 }
 
 TEST(Notices, a_balloon_lets_events_run_and_returns_when_the_user_clicks_it_away) {
-  QtNotices notices;
+  QtLoop loop;
+  QtNotices notices(loop);
   QStringList seen;
   QTimer::singleShot(20, [&] {
     QWidget* window = nullptr;
@@ -44,7 +46,8 @@ TEST(Notices, a_balloon_lets_events_run_and_returns_when_the_user_clicks_it_away
 }
 
 TEST(Notices, a_short_message_returns_at_once_and_the_next_takes_its_place) {
-  QtNotices notices;
+  QtLoop loop;
+  QtNotices notices(loop);
   notices.ShowPopMsg("one");
   EXPECT_EQ(noticeOnScreen(), QStringList{"one"});
   notices.ShowPopMsg("two");
