@@ -77,7 +77,7 @@ void ProfileFile::readLine(std::string_view line) {
   size_ += line.size();
   if (const auto name = sectionName(line)) {
     sections_.emplace_back();
-    numbers_.try_emplace(*name, sections_.size() - 1);
+    doubled_ = !numbers_.try_emplace(*name, sections_.size() - 1).second || doubled_;
   } else if (const auto entry = keyLine(line)) {
     sections_.back().keys.try_emplace(lowerCase(entry->key), sections_.back().lines.size());
   }

@@ -22,6 +22,8 @@ class ProfileFile {
   bool hasSection(std::string_view section) const { return find(section) != nullptr; }
   // True when there is a section named by a number above `number`.
   bool hasSectionBeyond(int number) const;
+  // True when two sections have the same name, of which the second is never read.
+  bool hasDoubledSection() const { return doubled_; }
   // Length of the longest value in a section, 0 when there is none.
   std::size_t longestValue(std::string_view section) const;
 
@@ -50,6 +52,7 @@ class ProfileFile {
   std::vector<Section> sections_;                         // the first holds the lines before any section
   std::unordered_map<std::string, std::size_t> numbers_;  // lower-case section name -> number in `sections_`
   std::size_t size_ = 0;
+  bool doubled_ = false;
 };
 
 }  // namespace vantrel

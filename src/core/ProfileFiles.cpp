@@ -41,13 +41,19 @@ void ProfileFiles::read(const std::string& file, Entry& entry) {
   if (entry.read && stamp == entry.stamp) {
     return;
   }
-  ProfileFile content(stamp ? files_.read(file) : std::string());
+  const std::string bytes = stamp ? files_.read(file) : std::string();
+  ProfileFile content(bytes);
+  // An item was numbered by what the file held before; now its number may be that of another one.
+  if (entry.ownItems && !bytes.empty() && !entry.copy) {
+    entry.copy = bytes;
+  }
   for (const Change& change : entry.changes) {
     apply(content, change);
   }
   entry.content = std::move(content);
   entry.stamp = stamp;
   entry.read = true;
+  entry.loaded = !stamp;
 }
 
 void ProfileFiles::apply(ProfileFile& content, const Change& change) {
@@ -82,15 +88,29 @@ void ProfileFiles::change(const std::string& file, Change change, WritePace pace
     return;
   }
   held.changedBytes += change.key.size() + change.value.size() + 3;
-  held.changes.push_back(std::move(change));
+  held.ownItems = held.ownItems || pace == WritePace::everyTurn;
+  remember(held, std::move(change));
   held.lastChange = loop_.tickCount();
-  const bool soon = pace == WritePace::everyTurn || held.changedBytes * growthShare >= held.content.size();
+  const bool grown = held.changedBytes * growthShare >= held.content.size();
+  const bool soon = pace == WritePace::everyTurn || (grown && !held.failing);
   if (soon && !held.soon) {
     schedule(file, held, 0);
     held.soon = true;
   } else if (held.timer == 0) {
     schedule(file, held, quietTime);
   }
+}
+
+// The latest value of a key stands for the ones before it.
+void ProfileFiles::remember(Entry& entry, Change change) {
+  if (!change.section.empty()) {
+    const auto [place, isNew] = entry.places.try_emplace(change.section + '\n' + change.key, entry.changes.size());
+    if (!isNew) {
+      entry.changes[place->second] = std::move(change);
+      return;
+    }
+  }
+  entry.changes.push_back(std::move(change));
 }
 
 void ProfileFiles::schedule(const std::string& file, Entry& entry, int milliseconds) {
@@ -117,23 +137,27 @@ bool ProfileFiles::write(const std::string& file, Entry& entry) {
     return true;
   }
   try {
-    if (entry.copy) {
-      files_.replace(freeCopyName(file), *entry.copy);
-      entry.copy.reset();
-    }
     if (!entry.replaced) {
       read(file, entry);
     } else if (!entry.read && files_.stamp(file)) {
       files_.rename(file, freeCopyName(file));
     }
+    if (entry.copy) {
+      files_.replace(freeCopyName(file), *entry.copy);
+      entry.copy.reset();
+    }
     files_.replace(file, entry.content.bytes());
   } catch (const Failure&) {
+    entry.failing = true;
     return false;
   }
   entry.stamp = files_.stamp(file);
   entry.read = true;
   entry.replaced = false;
+  entry.failing = false;
+  entry.ownItems = false;
   entry.changes.clear();
+  entry.places.clear();
   entry.changedBytes = 0;
   return true;
 }
@@ -166,7 +190,9 @@ void ProfileFiles::commitDraft(const std::string& file) {
   }
   held.content = std::move(entries_[file + ".draft"].content);
   held.replaced = true;
+  held.loaded = true;
   held.changes.clear();
+  held.places.clear();
   held.changedBytes = 0;
   dropDraft(file);
   if (!write(file, held)) {
@@ -177,6 +203,20 @@ void ProfileFiles::commitDraft(const std::string& file) {
 bool ProfileFiles::exists(const std::string& file) {
   const Entry& held = entry(file);
   return isUnsaved(held.replaced, held.changes.size()) || files_.stamp(file).has_value();
+}
+
+void ProfileFiles::requireReadable(const std::string& file) {
+  if (!entry(file).read && !entry(file).draft && files_.stamp(file)) {
+    throw failures::fileAccess();
+  }
+}
+
+void ProfileFiles::noteLoaded(const std::string& file) {
+  entry(file).loaded = true;
+}
+
+bool ProfileFiles::isLoaded(const std::string& file) {
+  return entry(file).loaded;
 }
 
 std::string ProfileFiles::freeCopyName(const std::string& file) const {

@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/ProfileFile.h"
@@ -44,6 +45,9 @@ class ProfileFiles {
                      WritePace pace = WritePace::everyTurn);
   // Opens the file for appending, as it were, and writes one line.
   void appendLine(const std::string& file, std::string_view line);
+  // Throws failure 75 when the file is there but could not be read: what it holds is not known then, and nothing that
+  // depends on it may be written.
+  void requireReadable(const std::string& file);
   // The content as it stands, changes not yet written included; valid until the next call.
   const ProfileFile& content(const std::string& file);
 
@@ -57,6 +61,11 @@ class ProfileFiles {
 
   // True when the file is on disk or about to be.
   bool exists(const std::string& file);
+
+  // Says that the program has taken in all that the file holds at present.
+  void noteLoaded(const std::string& file);
+  // True when the file holds nothing but what the program has loaded or committed.
+  bool isLoaded(const std::string& file);
 
   // Has the file's present content kept beside it, as ".bak", or ".bak2" to ".bak9" where that is taken, before the
   // file is written the next time: as long as the copy cannot be written, neither is the file.
@@ -76,10 +85,14 @@ class ProfileFiles {
     std::optional<FileStamp> stamp;        // of the file that `content` was read from or written to
     std::optional<std::uint64_t> checked;  // tick count of the last look at the stamp
     bool read = false;
+    bool loaded = false;  // see isLoaded
     bool draft = false;
-    bool replaced = false;            // the whole content is new, whatever stands on disk
-    std::optional<std::string> copy;  // bytes to be kept beside the file before it is written
-    std::vector<Change> changes;      // not yet written
+    bool replaced = false;                                // the whole content is new, whatever stands on disk
+    std::optional<std::string> copy;                      // bytes to be kept beside the file before it is written
+    bool ownItems = false;                                // a user's item is among the changes
+    bool failing = false;                                 // the last write failed
+    std::vector<Change> changes;                          // not yet written
+    std::unordered_map<std::string, std::size_t> places;  // section and key -> number in `changes`
     std::size_t changedBytes = 0;
     TimerId timer = 0;
     bool soon = false;             // the timer runs to the end of this turn, not to a quiet moment
@@ -89,6 +102,7 @@ class ProfileFiles {
   Entry& entry(const std::string& file);
   void read(const std::string& file, Entry& entry);
   void change(const std::string& file, Change change, WritePace pace);
+  static void remember(Entry& entry, Change change);
   void schedule(const std::string& file, Entry& entry, int milliseconds);
   void writeWhenDue(const std::string& file);
   bool write(const std::string& file, Entry& entry);

@@ -61,6 +61,10 @@ void StoreRewrites::rewriteOnce(const std::string& file, const Steps& steps) {
 // True when a store that was read and is written again would lose something that its file holds.
 bool StoreRewrites::holdsMoreThanIsRead(const std::string& file, const StoreFormat& format) {
   const ProfileFile& content = c_.profiles.content(file);
+  if (!c_.profiles.isLoaded(file) || content.hasDoubledSection() ||
+      (content.size() > 0 && !content.value(format.countSection, format.countKey))) {
+    return true;
+  }
   int count = 0;
   try {
     count = stores_.readCount(file, format);

@@ -7,6 +7,7 @@
 namespace vantrel {
 
 std::int16_t modFavesIni::readCount(const std::string& file, const StoreFormat& format) {
+  c_.profiles.requireReadable(file);
   const std::string text = c_.profiles.ReadIniValue(file, format.countSection, format.countKey);
   return trimBlanks(text).empty() ? std::int16_t{0} : toInteger16(text);
 }
@@ -37,6 +38,7 @@ void modFavesIni::LoadFaves() {
     item.name = c_.profiles.ReadIniValue(file, section, "name");
     c_.mainWindow.myFaves1.add(item);
   }
+  c_.profiles.noteLoaded(file);
 }
 
 void modFavesIni::LoadBuddies() {
@@ -53,6 +55,7 @@ void modFavesIni::LoadBuddies() {
     item.name = c_.profiles.ReadIniValue(file, section, "buddyname");
     list.add(item);
   }
+  c_.profiles.noteLoaded(file);
 }
 
 void modFavesIni::LoadMirrors() {
@@ -66,6 +69,7 @@ void modFavesIni::LoadMirrors() {
       c_.mirror.lstMirrors.add(mirror + "/");
     }
   }
+  c_.profiles.noteLoaded(file);
 }
 
 void modFavesIni::writeFave(const std::string& file, const std::string& section, const FavoriteItem& item) {
@@ -102,6 +106,7 @@ void modFavesIni::AddFaveEdited(const std::string& file) {
 }
 
 void modFavesIni::UpdateFave(const std::string& file) {
+  c_.profiles.requireReadable(file);
   const std::int16_t number = toInteger16(c_.mainWindow.txtID.text.get());
   writeFave(file, std::to_string(number), editedFave());
 }

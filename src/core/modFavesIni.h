@@ -1,6 +1,7 @@
 // The operations on one store file: reading its items, adding one, creating the file. docs/stores.md tells the formats.
 //
-// Counts are 16-bit: reading or adding to one that is no such number throws failure 13 or 6, and nothing is changed.
+// Counts are 16-bit: reading or adding to one that is no such number throws failure 13 or 6, and
+// using a file that is there but cannot be read throws failure 75; nothing is changed then.
 #pragma once
 
 #include <cstdint>

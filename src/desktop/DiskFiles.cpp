@@ -1,6 +1,7 @@
 #include "desktop/DiskFiles.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,7 +9,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
-#include <utility>
 
 #include "core/Text.h"
 #include "platform/Failure.h"
@@ -44,8 +44,6 @@ class Descriptor {
     }
   }
   int get() const { return number_; }
-  // Some file systems tell only now that the disk was full.
-  int close() { return ::close(std::exchange(number_, -1)); }
 
  private:
   int number_;
@@ -64,17 +62,32 @@ int writeAll(int descriptor, const std::string& bytes) {
   return 0;
 }
 
-int writeNewFile(const std::string& path, mode_t mode, const std::string& bytes) {
-  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, mode));
+bool isLocked(const Descriptor& file, const std::string& path) {
+  struct stat opened {};
+  struct stat named {};
+  return ::flock(file.get(), LOCK_EX | LOCK_NB) == 0 && ::fstat(file.get(), &opened) == 0 &&
+         ::stat(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino;
+}
+
+// Writes `bytes` to the new file and gives it the name of the target; 0, or the system's error. Another copy of the
+// program may be writing the same store: then the new file is locked, or has its final name by now.
+int replaceBy(const std::string& fresh, const std::string& target, mode_t mode, const std::string& bytes) {
+  const Descriptor file(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode));
   if (file.get() < 0) {
     return errno;
   }
-  ::fchmod(file.get(), mode);
-  const int error = writeAll(file.get(), bytes);
-  if (error != 0) {
-    return error;
+  if (!isLocked(file, fresh)) {
+    return EWOULDBLOCK;
   }
-  return ::fsync(file.get()) != 0 || file.close() != 0 ? errno : 0;
+  int error = ::ftruncate(file.get(), 0) != 0 || ::fchmod(file.get(), mode) != 0 ? errno : 0;
+  error = error != 0 ? error : writeAll(file.get(), bytes);
+  if (error == 0 && (::fsync(file.get()) != 0 || ::rename(fresh.c_str(), target.c_str()) != 0)) {
+    error = errno;
+  }
+  if (error != 0) {
+    ::unlink(fresh.c_str());
+  }
+  return error;
 }
 
 // The file behind a link, so that a replacement leaves the link in place.
@@ -120,12 +133,8 @@ void DiskFiles::replace(const std::string& path, const std::string& bytes) {
     throw failures::fileAccess();
   }
   const std::string fresh = target + ".new";
-  int error = writeNewFile(fresh, exists ? status.st_mode & 07777 : newFileMode, bytes);
-  if (error == 0 && ::rename(fresh.c_str(), target.c_str()) != 0) {
-    error = errno;
-  }
+  const int error = replaceBy(fresh, target, exists ? status.st_mode & 07777 : newFileMode, bytes);
   if (error != 0) {
-    ::unlink(fresh.c_str());
     throw error == ENOENT ? failures::pathNotFound() : failureOf(error);
   }
   // The new name is on the disk once its folder is.

@@ -110,6 +110,8 @@ TEST_F(StoresTest, an_item_that_a_wrong_count_hides_is_copied_beside_the_store_b
 struct RewriteTest : StoresTest {
   RewriteTest() {
     files.changeOutside(favoritesFile, old);
+    stores.LoadFaves();
+    mainWindow.myFaves1.clear();
     addFun();
   }
   const std::string old = header + "[FAVECOUNT]\r\nFavorites=1\r\n[1]\r\nname=Old\r\n";
@@ -193,11 +195,17 @@ TEST_F(RewriteTest, a_list_too_long_for_a_store_is_failure_6_and_the_old_store_s
 
 TEST_F(RewriteTest, a_store_that_holds_more_than_is_read_is_copied_beside_it_first) {
   const std::string longValue = "[FAVECOUNT]\r\nFavorites=1\r\n[1]\r\npassword=" + std::string(300, 'p') + "\r\n";
-  const std::string bytes[] = {old + "[2]\r\nname=hidden\r\n", old + "[3]\r\nname=behind a gap\r\n", longValue,
-                               "[FAVECOUNT]\r\nFavorites=none\r\n[1]\r\nname=hidden\r\n"};
+  const std::string bytes[] = {old + "[2]\r\nname=hidden\r\n",
+                               old + "[3]\r\nname=behind a gap\r\n",
+                               longValue,
+                               "[FAVECOUNT]\r\nFavorites=none\r\n[1]\r\nname=hidden\r\n",
+                               old + "[1]\r\nname=of the same number\r\n",
+                               "[1]\rname=no line ends\r"};
   for (const std::string& each : bytes) {
     World world;
     world.files.changeOutside(favoritesFile, each);
+    failureOf([&] { world.stores.LoadFaves(); });
+    world.mainWindow.myFaves1.clear();
     world.rewrites.saveFaves(favoritesFile);
     EXPECT_EQ(world.onDisk("favorites.ini.bak"), each);
     EXPECT_EQ(world.onDisk("favorites.ini"), header + "[FAVECOUNT]\r\nFavorites=0\r\n");
@@ -213,6 +221,36 @@ TEST_F(RewriteTest, a_disk_that_has_no_room_for_the_copy_lets_nothing_be_lost_wh
   files.full = false;
   loop.wait(20000);
   EXPECT_NE((onDisk("favorites.ini") + onDisk("favorites.ini.bak")).find("name=hidden"), std::string::npos);
+}
+
+TEST_F(RewriteTest, what_came_into_a_store_after_it_was_loaded_is_copied_beside_it_too) {
+  files.changeOutside(favoritesFile, old + "[2]\r\nname=of another program\r\n[FAVECOUNT]\r\nFavorites=2\r\n");
+  rewrites.saveFaves(favoritesFile);
+  EXPECT_NE(onDisk("favorites.ini.bak").find("of another program"), std::string::npos);
+}
+
+TEST_F(StoresTest, a_store_that_cannot_be_read_takes_no_item_and_loses_none) {
+  const std::string held = "[MOFOCOUNT]\r\nBuddies=1\r\n[1]\r\nbuddyname=A\r\nlastserver=\r\n";
+  files.changeOutside(buddiesFile, held);
+  files.unreadable.insert(buddiesFile);
+  stores.AddBuddy("New", "");
+  ASSERT_EQ(notices.log.size(), 1U);
+  EXPECT_TRUE(notices.log[0].starts_with("Problem Adding Buddy: Error 75 - ")) << notices.log[0];
+  files.unreadable.clear();
+  loop.wait(20000);
+  EXPECT_EQ(onDisk("buddies.ini"), held);
+}
+
+TEST_F(StoresTest, an_item_that_waits_to_be_written_replaces_none_of_another_program_without_a_copy) {
+  files.full = true;
+  stores.AddBuddy("Mine", "");
+  loop.wait(100);
+  files.full = false;
+  const std::string theirs = "[MOFOCOUNT]\r\nBuddies=1\r\n[1]\r\nbuddyname=Theirs\r\n";
+  files.changeOutside(buddiesFile, theirs);
+  loop.wait(20000);
+  EXPECT_NE(onDisk("buddies.ini").find("buddyname=Mine"), std::string::npos);
+  EXPECT_EQ(onDisk("buddies.ini.bak"), theirs);
 }
 
 TEST_F(StoresTest, a_mirrors_web_site_survives_a_rewrite_also_of_one_that_has_no_slash_in_the_file) {
