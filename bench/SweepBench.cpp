@@ -8,7 +8,7 @@
 #include <chrono>
 
 #include "app/Program.h"
-#include "desktop/ServerGridView.h"
+#include "desktop/grid/ServerGridView.h"
 #include "sandbox/SandboxWorld.h"
 
 namespace vantrel::bench {

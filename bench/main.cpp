@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "SweepBench.h"
-#include "desktop/Theme.h"
+#include "desktop/window/Theme.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

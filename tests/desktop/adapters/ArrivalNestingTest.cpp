@@ -1,4 +1,4 @@
-#include "desktop/ArrivalNesting.h"
+#include "desktop/adapters/ArrivalNesting.h"
 
 #include <gtest/gtest.h>
 

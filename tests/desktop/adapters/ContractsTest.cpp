@@ -12,10 +12,10 @@
 #include <map>
 #include <memory>
 
-#include "desktop/DiskFiles.h"
-#include "desktop/PosixTcpSocket.h"
-#include "desktop/PosixUdpSocket.h"
-#include "desktop/QtLoop.h"
+#include "desktop/adapters/DiskFiles.h"
+#include "desktop/adapters/PosixTcpSocket.h"
+#include "desktop/adapters/PosixUdpSocket.h"
+#include "desktop/adapters/QtLoop.h"
 #include "support/FilesContract.h"
 #include "support/LoopContract.h"
 #include "support/TcpSocketContract.h"

@@ -1,4 +1,4 @@
-#include "desktop/DiskFiles.h"
+#include "desktop/adapters/DiskFiles.h"
 
 #include <gtest/gtest.h>
 #include <signal.h>
@@ -12,7 +12,7 @@
 #include <string>
 
 #include "core/StoreRewrites.h"
-#include "desktop/QtLoop.h"
+#include "desktop/adapters/QtLoop.h"
 #include "support/FilesContract.h"
 
 namespace vantrel {

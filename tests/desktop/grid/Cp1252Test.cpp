@@ -1,4 +1,4 @@
-#include "desktop/Cp1252.h"
+#include "desktop/text/Cp1252.h"
 
 #include <gtest/gtest.h>
 

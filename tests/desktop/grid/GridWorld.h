@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "desktop/ServerGridView.h"
+#include "desktop/grid/ServerGridView.h"
 
 namespace vantrel {
 

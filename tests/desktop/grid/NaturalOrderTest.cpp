@@ -1,4 +1,4 @@
-#include "desktop/NaturalOrder.h"
+#include "desktop/grid/NaturalOrder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "desktop/ServerGridOrder.h"
+#include "desktop/grid/ServerGridOrder.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <random>
 #include <set>
 
-#include "desktop/NaturalOrder.h"
+#include "desktop/grid/NaturalOrder.h"
 
 namespace vantrel {
 

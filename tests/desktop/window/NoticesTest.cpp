@@ -5,9 +5,9 @@
 #include <QTest>
 #include <QTimer>
 
-#include "desktop/ProgressLine.h"
-#include "desktop/QtLoop.h"
-#include "desktop/QtNotices.h"
+#include "desktop/adapters/QtLoop.h"
+#include "desktop/adapters/QtNotices.h"
+#include "desktop/window/ProgressLine.h"
 
 namespace vantrel {
 namespace {

@@ -16,7 +16,7 @@
 
 #include "app/Program.h"
 #include "core/Text.h"
-#include "desktop/Cp1252.h"
+#include "desktop/text/Cp1252.h"
 #include "sandbox/SandboxWorld.h"
 
 namespace vantrel {

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/Theme.h"
+#include "desktop/window/Theme.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

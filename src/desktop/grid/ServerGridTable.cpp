@@ -1,0 +1,346 @@
+#include "desktop/grid/ServerGridTable.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "desktop/grid/ServerGridIcons.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr int arrowWidth = 22;  // of the part of a group row that folds it at one click
+
+std::optional<MouseButton> toMouseButton(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return MouseButton::left;
+    case Qt::RightButton:
+      return MouseButton::right;
+    case Qt::MiddleButton:
+      return MouseButton::middle;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+ServerGridTable::ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(model), selected_(grid.currentRow()) {
+  setObjectName(QStringLiteral("grdServersTable"));
+  setAccessibleName(QStringLiteral("Server list"));
+  setShowGrid(false);
+  setFrameShape(QFrame::NoFrame);
+  setCornerButtonEnabled(false);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setAutoScroll(false);
+  setWordWrap(false);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  setModel(&model_);
+  connect(&model_, &ServerGridModel::aboutToShow, this, &ServerGridTable::rememberSight);
+  connect(&model_, &ServerGridModel::shown, this, &ServerGridTable::restoreSight);
+  connect(&model_, &ServerGridModel::rearranged, this, [this] {
+    doItemsLayout();
+    showSelection();
+    viewport()->update();
+  });
+  connect(&model_, &ServerGridModel::columnsShown, this, &ServerGridTable::applyColumns);
+  connect(&model_, &ServerGridModel::lookShown, this, &ServerGridTable::applyLook);
+  connections_.push_back(grid_.cleared.connect([this] {
+    selected_ = 0;
+    cursorGroup_ = 0;
+    toTop_ = true;
+  }));
+  connections_.push_back(grid_.rowSelected.connect([this](int row, int) {
+    if (row != selected_) {
+      selected_ = row;
+      cursorGroup_ = 0;
+      showSelection();
+      viewport()->update();
+    }
+  }));
+  applyLook();
+}
+
+int ServerGridTable::pitch() const {
+  return std::max(1, grid_.look().rowHeight);
+}
+
+int ServerGridTable::firstInSight() const {
+  return verticalScrollBar()->value() / pitch();
+}
+
+void ServerGridTable::applyColumns() {
+  for (int column = 0; column < model_.columnCount(); ++column) {
+    setColumnWidth(column, grid_.column(column + 1).width);
+  }
+}
+
+void ServerGridTable::applyLook() {
+  const GridLook& look = grid_.look();
+  verticalHeader()->setDefaultSectionSize(pitch());
+  verticalScrollBar()->setSingleStep(pitch());
+  QPalette colored = palette();
+  colored.setColor(QPalette::Base, gridColor(look.background));
+  colored.setColor(QPalette::Text, gridColor(look.text));
+  // The rows are painted before the cells; the style must not paint its own selection over them.
+  colored.setColor(QPalette::Highlight, Qt::transparent);
+  setPalette(colored);
+  backdrop_ = QPixmap();
+  viewport()->update();
+}
+
+// The topmost entry that is still shown after the batch holds its place. Rows that change are no hold: one that moves
+// away because of its new text would take the view along.
+void ServerGridTable::rememberSight() {
+  sight_.clear();
+  shown_ = entriesInSight();
+  sightChanged_ = std::any_of(shown_.begin(), shown_.end(), [this](ServerGridOrder::Entry entry) {
+    return entry <= 0 || model_.isDirty(entry);  // A group row tells how many rows it has.
+  });
+  const int top = verticalScrollBar()->value();
+  for (int position = firstInSight(); position * pitch() < top + viewport()->height(); ++position) {
+    const ServerGridOrder::Entry entry = model_.entryAt(position);
+    if (entry == 0) {
+      return;
+    }
+    if (!model_.isDirty(entry)) {
+      sight_.push_back({entry, position, position * pitch() - top});
+    }
+  }
+}
+
+void ServerGridTable::restoreSight() {
+  doItemsLayout();
+  if (std::exchange(toTop_, false)) {
+    verticalScrollBar()->setValue(0);
+  }
+  for (const Sight& seen : sight_) {
+    const int position = model_.positionOf(seen.entry);
+    if (position >= 0) {
+      verticalScrollBar()->setValue(position * pitch() - seen.y);
+      stripeShift_ = (stripeShift_ + position - seen.position) % 2;
+      break;
+    }
+  }
+  sight_.clear();
+  showSelection();
+  if (sightChanged_ || entriesInSight() != shown_) {
+    viewport()->update();
+  }
+}
+
+std::vector<ServerGridOrder::Entry> ServerGridTable::entriesInSight() const {
+  std::vector<ServerGridOrder::Entry> entries;
+  const int end = verticalScrollBar()->value() + viewport()->height();
+  for (int position = firstInSight(); position * pitch() < end && position < model_.rowCount(); ++position) {
+    entries.push_back(model_.entryAt(position));
+  }
+  return entries;
+}
+
+// The base class paints everything anew whenever rows come, also those that come far out of sight: in a sweep that is
+// most of the work. Here a batch finds out for itself whether anything in sight has changed.
+void ServerGridTable::doItemsLayout() {
+  updateGeometries();
+  verticalHeader()->setOffset(verticalScrollBar()->value());
+  verticalHeader()->setUpdatesEnabled(true);
+}
+
+void ServerGridTable::dataChanged(const QModelIndex& /*first*/, const QModelIndex& /*last*/,
+                                  const QList<int>& /*roles*/) {}
+
+void ServerGridTable::showSelection() {
+  const int position = model_.positionOf(selected_);
+  const QModelIndex selected = model_.index(position, column_);
+  const QModelIndex cursor = cursorGroup_ == 0 ? selected : model_.index(model_.positionOf(cursorGroup_), 0);
+  if (!selected.isValid()) {
+    selectionModel()->clearSelection();
+  } else if (!selectionModel()->isSelected(selected)) {
+    selectionModel()->select(selected, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+  if (cursor != selectionModel()->currentIndex()) {
+    selectionModel()->setCurrentIndex(cursor, QItemSelectionModel::NoUpdate);
+  }
+}
+
+void ServerGridTable::putCursorOn(ServerGridOrder::Entry entry) {
+  cursorGroup_ = entry < 0 ? entry : 0;
+  selected_ = entry > 0 ? entry : selected_;
+  showSelection();
+  viewport()->update();
+}
+
+int ServerGridTable::cursorPosition() const {
+  return model_.positionOf(cursorGroup_ != 0 ? cursorGroup_ : selected_);
+}
+
+void ServerGridTable::mousePressEvent(QMouseEvent* event) {
+  press(event);
+}
+
+// The second press of a double click is a press like the first, but for a group row, where it folds.
+void ServerGridTable::mouseDoubleClickEvent(QMouseEvent* event) {
+  const ServerGridOrder::Entry entry = model_.entryAt(indexAt(event->position().toPoint()).row());
+  if (entry < 0 && event->button() == Qt::LeftButton) {
+    putCursorOn(entry);
+    toggle(entry);
+    return;
+  }
+  press(event);
+}
+
+// Dragging over the rows selects nothing: the row of the press stays the selected one.
+void ServerGridTable::mouseMoveEvent(QMouseEvent* event) {
+  event->accept();
+}
+
+void ServerGridTable::mouseReleaseEvent(QMouseEvent* event) {
+  event->accept();
+}
+
+// A listener of the grid may run other events, in which rows come or the grid is cleared. So the event is read first,
+// and nothing of the table is looked at after the grid was told.
+void ServerGridTable::press(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  const auto button = toMouseButton(event->button());
+  const ServerGridOrder::Entry entry = model_.entryAt(index.row());
+  event->accept();
+  if (!button) {
+    return;
+  }
+  if (entry < 0) {
+    putCursorOn(entry);
+    if (button == MouseButton::left && event->position().x() < arrowWidth) {
+      toggle(entry);
+    }
+    return;
+  }
+  ServerGrid& grid = grid_;
+  if (entry > 0 && (button == MouseButton::left || entry != grid.currentRow())) {
+    column_ = index.column();
+    putCursorOn(entry);
+    grid.select(entry, index.column() + 1);
+  }
+  grid.mouseButton.fire(*button);
+}
+
+void ServerGridTable::toggle(ServerGridOrder::Entry group) {
+  model_.fold(group, model_.order().group(group).folded ? Folding::open : Folding::folded);
+}
+
+bool ServerGridTable::foldByKey(int key) {
+  const bool fold = key == Qt::Key_Left;
+  if (!fold && key != Qt::Key_Right) {
+    return false;
+  }
+  if (cursorGroup_ != 0) {
+    model_.fold(cursorGroup_, fold ? Folding::folded : Folding::open);
+  } else if (fold && model_.order().groupOf(selected_) != 0) {
+    moveTo(model_.positionOf(model_.order().groupOf(selected_)));
+  } else {
+    QScrollBar* bar = horizontalScrollBar();
+    bar->setValue(bar->value() + (fold ? -bar->singleStep() : bar->singleStep()));
+  }
+  return true;
+}
+
+bool ServerGridTable::moveByKey(int key) {
+  const int last = model_.rowCount() - 1;
+  const int page = std::max(1, viewport()->height() / pitch() - 1);
+  const int now = cursorPosition();
+  int wanted = now;
+  switch (key) {
+    case Qt::Key_Up:
+      wanted = now - 1;
+      break;
+    case Qt::Key_Down:
+      wanted = now + 1;
+      break;
+    case Qt::Key_PageUp:
+      wanted = now - page;
+      break;
+    case Qt::Key_PageDown:
+      wanted = now + page;
+      break;
+    case Qt::Key_Home:
+      wanted = 0;
+      break;
+    case Qt::Key_End:
+      wanted = last;
+      break;
+    default:
+      return false;
+  }
+  wanted = std::clamp(wanted, 0, std::max(0, last));
+  if (wanted != now) {
+    moveTo(wanted);
+  }
+  return true;
+}
+
+void ServerGridTable::moveTo(int position) {
+  const ServerGridOrder::Entry entry = model_.entryAt(position);
+  if (entry == 0) {
+    return;
+  }
+  putCursorOn(entry);
+  scrollTo(model_.index(position, column_));
+  if (entry > 0) {
+    grid_.select(entry, column_ + 1);
+  }
+}
+
+void ServerGridTable::keyPressEvent(QKeyEvent* event) {
+  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  const bool plain = modifiers == Qt::NoModifier;
+  event->accept();
+  if (plain && (foldByKey(event->key()) || moveByKey(event->key()))) {
+    return;
+  }
+  if (plain && event->key() == Qt::Key_Space && cursorGroup_ != 0) {
+    toggle(cursorGroup_);
+    return;
+  }
+  // What the base class knows beyond that is the search for the letters that are typed.
+  const QModelIndex before = currentIndex();
+  QTableView::keyPressEvent(event);
+  if (currentIndex() != before) {
+    moveTo(currentIndex().row());
+  }
+}
+
+// The base class would put the cursor on the first row.
+void ServerGridTable::focusInEvent(QFocusEvent* event) {
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void ServerGridTable::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange) {
+    viewport()->update();
+  }
+}
+
+// The picture behind the rows stands still while they scroll.
+void ServerGridTable::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  viewport()->update();
+}
+
+}  // namespace vantrel
