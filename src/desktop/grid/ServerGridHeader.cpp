@@ -2,12 +2,21 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QProxyStyle>
 #include <QStyle>
 #include <utility>
 
 namespace vantrel {
 
 namespace {
+
+// Puts the headers' texts above those of the cells.
+class HeaderStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    return metric == PM_HeaderMargin ? 4 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
 
 constexpr int leaveDistance = 4;  // above the header; a hand that wavers along the edge does not leave
 
@@ -21,6 +30,9 @@ ServerGridHeader::ServerGridHeader(QWidget* parent) : QHeaderView(Qt::Horizontal
   setStretchLastSection(true);
   setMinimumSectionSize(24);
   setAutoScroll(false);
+  auto* const headerStyle = new HeaderStyle;
+  headerStyle->setParent(this);
+  setStyle(headerStyle);
 }
 
 bool ServerGridHeader::isResizeHandle(int x) const {

@@ -75,16 +75,14 @@ void MainWindow::addTotal(QBoxLayout& row, const char* name, const QString& capt
 }
 
 QWidget* MainWindow::makeFooter(SweepProgress& progress) {
-  auto* const footer = new QFrame(this);
-  footer->setObjectName("footer");
+  auto* const footer = new ProgressLine(progress, this);
   auto* const row = new QHBoxLayout(footer);
-  row->setContentsMargins(12, 0, 14, 0);
-  row->setSpacing(12);
+  row->setContentsMargins(0, ProgressLine::barHeight, 14, 0);
   auto* const count = new QLabel(footer);
   count->setObjectName("lblCount");
   count->setAccessibleName(tr("Server count"));
   connections_.push_back(bindCaption(*count, model_.lblCount));
-  row->addWidget(new ProgressLine(progress, footer), 1);
+  row->addStretch(1);
   row->addWidget(count);
   return footer;
 }

@@ -9,7 +9,7 @@
 namespace vantrel {
 namespace {
 
-constexpr int barHeight = 2;
+constexpr int textInset = 12;
 constexpr int refreshInterval = 80;  // milliseconds
 
 }  // namespace
@@ -49,11 +49,13 @@ QString ProgressLine::text() const {
 }
 
 QSize ProgressLine::sizeHint() const {
-  return {160, fontMetrics().height() + barHeight + 8};
+  return {160, fontMetrics().height() + barHeight + 10};
 }
 
 void ProgressLine::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  painter.fillRect(rect(), theme::panel);
+  painter.fillRect(QRectF(0, 0, width(), 1), theme::edge);
   if (progress_.walking.get()) {
     const int listed = std::max(1, progress_.listed.get());
     const double share = std::min(1.0, static_cast<double>(progress_.asked.get()) / listed);
@@ -61,7 +63,7 @@ void ProgressLine::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(QRectF(0, 0, width() * share, barHeight), theme::accent);
   }
   painter.setPen(theme::dimText);
-  painter.drawText(rect().adjusted(0, barHeight, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.drawText(rect().adjusted(textInset, barHeight, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 
 }  // namespace vantrel

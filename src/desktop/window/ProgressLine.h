@@ -1,5 +1,5 @@
-// The line under the server list: how many addresses were asked and how many have answered, with a thin bar above it
-// while the list is being walked.
+// The line under the server list: on its left how many addresses were asked and how many have answered, along its upper
+// edge a thin bar while the list is being walked. Its right side is free for others.
 #pragma once
 
 #include <QTimer>
@@ -12,6 +12,8 @@ namespace vantrel {
 
 class ProgressLine : public QWidget {
  public:
+  static constexpr int barHeight = 2;  // pixels at 100 %, at the upper edge
+
   // `progress` must outlive the widget.
   explicit ProgressLine(SweepProgress& progress, QWidget* parent = nullptr);
 

@@ -30,8 +30,7 @@ QPalette darkPalette() {
 
 constexpr const char* styleSheet = R"(
 #header { background: #262931; border-bottom: 1px solid #383c47; }
-#footer { background: #262931; border-top: 1px solid #383c47; }
-#footer QLabel { color: #a0a6b2; }
+#lblCount { color: #a0a6b2; }
 QLabel[role="total"] { font-size: 14pt; color: #ffffff; }
 QLabel[role="totalCaption"] { color: #a0a6b2; }
 #header QPushButton {
