@@ -36,15 +36,6 @@ sandbox::WorldSettings everyoneAnswers(std::size_t servers) {
   return settings;
 }
 
-// A click on a row in the middle of the table, and the picture that answers it.
-void clickRow(ServerGridView& view, int click) {
-  QWidget* const viewport = view.table().viewport();
-  const int rowHeight = 19;
-  const QPoint place(40, rowHeight / 2 + rowHeight * (click % 12));
-  QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, place);
-  viewport->repaint();
-}
-
 SweepFigures sweep(std::size_t servers) {
   sandbox::SandboxWorld world(everyoneAnswers(servers));
   world.start();
@@ -97,6 +88,14 @@ void print(Report& report, const std::string& name, const SweepFigures& figures)
 }
 
 }  // namespace
+
+void clickRow(ServerGridView& view, int click) {
+  QWidget* const viewport = view.table().viewport();
+  const int rowHeight = 19;
+  const QPoint place(40, rowHeight / 2 + rowHeight * (click % 12));
+  QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, place);
+  viewport->repaint();
+}
 
 void benchSweeps(Report& report) {
   constexpr double pause = 0.010;  // seconds, behind each query

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "Measure.h"
+#include "desktop/grid/ServerGridView.h"
 
 namespace vantrel::bench {
+
+// A click on a row in the middle of the table, and the picture that answers it.
+void clickRow(ServerGridView& view, int click);
 
 void benchSweeps(Report& report);
 void benchFlood(Report& report);
