@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <utility>
 
+#include "core/FailureStyles.h"
 #include "core/StoresAtStart.h"
+#include "core/modSGrid.h"
 
 namespace vantrel {
 namespace {
@@ -23,6 +25,10 @@ Program::Program(Site site, const std::string& appDir)
       sweep_({ws2_, loop_, frmMain_, frmPlayers_, stores_, folder_, progress_}),
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
       window_(frmMain_, commands_, progress_) {
+  frmMain_.grdServers.updating.set(false);
+  SetupGrid(frmMain_.grdServers);
+  stopSilently([this] { stores_.LoadBuddies(); });
+  frmMain_.grdServers.updating.set(true);
   openStores(storeContext_, stores_);
   commands_.add(getServerList, [this] { exchange_.start(); });
   closed_ = window_.closed.connect([this] { end(); });

@@ -18,7 +18,7 @@ constexpr int widestFit = 480;
 constexpr int longestLine = 1024;
 constexpr int longestToolTip = 1024;
 
-constexpr int narrowest = 75;  // percent of a font's width
+constexpr int narrowerWidths[] = {90, 82, 75};  // percent of a font's width; few, so that a column stays calm
 
 bool isNumberLike(const QString& text) {
   return text.size() <= 24 && std::all_of(text.begin(), text.end(), [](QChar character) {
@@ -54,8 +54,10 @@ QString elidedLine(const QString& text, const QFontMetrics& metrics, int width) 
 FittedLine fittedLine(const QString& text, const QFont& font, int width) {
   const QFontMetrics metrics(font);
   if (isNumberLike(text)) {
-    const int advance = metrics.horizontalAdvance(text);
-    for (int percent = advance > width ? 100 * width / advance : 100; percent >= narrowest; --percent) {
+    if (metrics.horizontalAdvance(text) <= width) {
+      return {text, font};
+    }
+    for (const int percent : narrowerWidths) {
       QFont narrow = font;
       narrow.setStretch(percent);
       if (QFontMetrics(narrow).horizontalAdvance(text) <= width) {
@@ -98,7 +100,7 @@ void ServerGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   const bool selected = option.state.testFlag(QStyle::State_Selected);
   painter->setFont(font);
   if (selected && cell.color != colors::white) {
-    paintPatch(painter, painter->boundingRect(place, flags, line), gridColor(grid_.look().background));
+    paintPatch(painter, painter->boundingRect(place, flags, line), gridColor(grid_.look().alternateRow));
   }
   painter->setPen(textColor(cell, grid_.look(), selected));
   painter->drawText(place, flags, line);

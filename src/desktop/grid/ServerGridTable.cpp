@@ -104,8 +104,9 @@ void ServerGridTable::applyLook() {
   viewport()->update();
 }
 
-// The topmost entry that is still shown after the batch holds its place. Rows that change are no hold: one that moves
-// away because of its new text would take the view along.
+// The selected row holds its place while it is in sight, else the topmost entry that is still shown after the batch.
+// Rows that change are no hold: one that moves away because of its new text would take the view along. A list that
+// nobody has scrolled, with nothing selected in sight, stays at its top.
 void ServerGridTable::rememberSight() {
   sight_.clear();
   shown_ = entriesInSight();
@@ -121,6 +122,13 @@ void ServerGridTable::rememberSight() {
     if (!model_.isDirty(entry)) {
       sight_.push_back({entry, position, position * pitch() - top});
     }
+  }
+  const ServerGridOrder::Entry cursor = cursorGroup_ != 0 ? cursorGroup_ : selected_;
+  const auto held = std::find_if(sight_.begin(), sight_.end(), [&](const Sight& seen) { return seen.entry == cursor; });
+  if (held != sight_.end()) {
+    std::rotate(sight_.begin(), held, held + 1);
+  } else if (top == 0) {
+    sight_.clear();
   }
 }
 
@@ -262,7 +270,9 @@ bool ServerGridTable::foldByKey(int key) {
 bool ServerGridTable::moveByKey(int key) {
   const int last = model_.rowCount() - 1;
   const int page = std::max(1, viewport()->height() / pitch() - 1);
-  const int now = cursorPosition();
+  // With nothing selected the keys start at the first row in sight.
+  const int now =
+      cursorPosition() >= 0 || key == Qt::Key_Home || key == Qt::Key_End ? cursorPosition() : firstInSight() - 1;
   int wanted = now;
   switch (key) {
     case Qt::Key_Up:

@@ -34,6 +34,7 @@ constexpr const char* styleSheet = R"(
 QLabel[role="total"] { font-size: 14pt; color: #ffffff; }
 QLabel[role="totalCaption"] { color: #a0a6b2; }
 #header QPushButton {
+  outline: none;
   background: #2f6db5; color: #ffffff; border: 1px solid #3f7fca; border-radius: 4px; padding: 7px 16px;
 }
 #header QPushButton:hover { background: #3a7ccb; }

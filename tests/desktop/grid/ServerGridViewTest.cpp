@@ -63,6 +63,26 @@ TEST_F(ServerGridViewTest, rows_that_arrive_or_move_out_of_sight_leave_the_scree
   EXPECT_EQ(entry(view.table().rowAt(12)), 42) << "a top row that moves away does not take the view along";
 }
 
+TEST_F(ServerGridViewTest, rows_that_arrive_above_a_selected_row_in_sight_leave_it_where_it_is_on_the_screen) {
+  addMany(100);
+  clickHeader(ping);
+  settle();
+  add("fast", "0 ms");
+  settle();
+  EXPECT_EQ(view.table().verticalScrollBar()->value(), 0) << "a list that nobody has scrolled stays at its top";
+  view.table().verticalScrollBar()->setValue(40 * 19);
+  press(45);
+  const int before = view.table().rowViewportPosition(45);
+  const int row = selectedRow();
+  const std::string text = grid.cellText(entry(42), ping);
+  for (int i = 0; i < 5; ++i) {
+    add("between", text);
+    settle();
+  }
+  EXPECT_EQ(selectedRow(), row);
+  EXPECT_EQ(view.table().rowViewportPosition(50), before);
+}
+
 TEST_F(ServerGridViewTest, a_press_selects_once_and_tells_the_button_after_it) {
   addMany(5);
   press(2, Qt::LeftButton, 180);
