@@ -96,11 +96,12 @@ void GroupingBar::paintChip(QPainter& painter, const Chip& chip, const QRect& re
   painter.save();
   painter.setOpacity(opacity);
   painter.setRenderHint(QPainter::Antialiasing);
-  QColor border = ink;
-  border.setAlpha(hasFocus() ? 220 : 110);
-  painter.setPen(QPen(border, 1));
+  QColor border = hasFocus() ? palette().color(QPalette::Highlight) : ink;
+  border.setAlpha(hasFocus() ? 255 : 110);
+  const qreal line = hasFocus() ? 2 : 1;
+  painter.setPen(QPen(border, line));
   painter.setBrush(gridColor(grid_.look().groupingBar).lighter(112));
-  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  painter.drawRoundedRect(QRectF(rect).adjusted(line / 2, line / 2, -line / 2, -line / 2), 4, 4);
   QRect text = rect.adjusted(margin, 0, -closeSize - 4, 0);
   if (!chip.icon.isNull()) {
     chip.icon.paint(&painter, text.left() - 2, rect.center().y() - iconSize / 2 + 1, iconSize, iconSize);

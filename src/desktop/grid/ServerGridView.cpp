@@ -17,8 +17,6 @@ ServerGridView::ServerGridView(ServerGrid& grid, QWidget* parent)
       header_(new ServerGridHeader(table_)) {
   setObjectName(QStringLiteral("grdServers"));
   setAccessibleName(QStringLiteral("Server list"));
-  setFocusProxy(table_);
-  setTabOrder(bar_, table_);
   table_->setItemDelegate(new ServerGridDelegate(grid, *model_, table_));
   table_->setHorizontalHeader(header_);
   header_->setSortIndicatorShown(true);  // only now: the table switches it off on a header that it takes
