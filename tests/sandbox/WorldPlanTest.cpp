@@ -46,25 +46,4 @@ TEST(WorldPlan, shares_are_met_exactly_and_names_use_every_character_that_a_repl
   EXPECT_EQ(characters.size(), 254u) << "all but the backslash and the NUL";
 }
 
-TEST(StatusReply, keys_come_in_the_order_that_clients_rely_on) {
-  GameServer server;
-  server.endpoint.port = 2303;
-  server.hostname = " Old  Kiln ";
-  server.mapName = "mirewood";
-  server.gameType = server.gameVariant = "CTF";
-  server.locked = server.teamPlay = true;
-  server.players = {{"Ann", 2, 40, 0}, {"[B] b", 1, 90, 1}};
-  EXPECT_EQ(statusReply(server),
-            "\\hostname\\ Old  Kiln \\gamever\\\\hostport\\2303\\maxplayers\\16\\password\\1\\mapname\\mirewood"
-            "\\dedicated\\1\\gamemode\\openplaying\\game_classic\\0\\numplayers\\2\\gametype\\CTF\\teamplay\\1"
-            "\\gamevariant\\CTF\\fraglimit\\0\\player_flags\\0,0\\game_flags\\0\\player_0\\Ann\\player_1\\[B] b"
-            "\\score_0\\2\\score_1\\1\\ping_0\\40\\ping_1\\90\\team_0\\0\\team_1\\1"
-            "\\team_t0\\Red\\team_t1\\Blue\\score_t0\\0\\score_t1\\0");
-}
-
-TEST(CommandLine, a_wrong_number_and_an_address_of_another_machine_are_refused) {
-  EXPECT_THROW(parseCommandLine({"--servers", "12x"}), std::invalid_argument);
-  EXPECT_THROW(parseCommandLine({"--master", "192.0.2.1"}), std::invalid_argument);
-}
-
 }  // namespace vantrel::sandbox
