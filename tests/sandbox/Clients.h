@@ -33,6 +33,9 @@ class Client {
  public:
   Client() : socket(::socket(AF_INET, SOCK_DGRAM, 0)) {}
   Client(int type, const Endpoint& server) : socket(::socket(AF_INET, type, 0)) {
+    // A small window makes the master server wait for this client when it sends much.
+    const int windowBytes = 1 << 16;
+    setsockopt(socket.number(), SOL_SOCKET, SO_RCVBUF, &windowBytes, sizeof windowBytes);
     sockaddr_in address = socketAddress(server);
     throwIf(connect(socket.number(), reinterpret_cast<sockaddr*>(&address), sizeof address) != 0, "no connection");
   }

@@ -52,15 +52,16 @@ TEST_F(ServerGridViewTest, rows_that_arrive_or_move_out_of_sight_leave_the_scree
   for (int i = 0; i < 5; ++i) {
     add("fast", std::to_string(i) + " ms");
     grid.setCell(100 - i, ping, "1 ms");  // from below the view to above it
-    grid.setCell(10 + i, ping, "1 s");
+    grid.setCell(10 + i, ping, "999 ms");
     settle();
     ASSERT_EQ(picture(), before);
     ASSERT_EQ(selectedRow(), 46);
   }
   EXPECT_EQ(heard(), "") << "only the user selects";
   grid.setCell(41, ping, "1 ms");
+  grid.setCell(46, ping, "1 ms");
   settle();
-  EXPECT_EQ(entry(view.table().rowAt(12)), 42) << "a top row that moves away does not take the view along";
+  EXPECT_EQ(entry(view.table().rowAt(12)), 42) << "the top row and the selected one do not take the view along";
 }
 
 TEST_F(ServerGridViewTest, rows_that_arrive_above_a_selected_row_in_sight_leave_it_where_it_is_on_the_screen) {
@@ -221,8 +222,8 @@ TEST_F(ServerGridViewTest, a_listener_may_clear_and_refill_the_grid_while_a_row_
     EXPECT_EQ(rowsShown(), 0);
     addMany(3);
   });
-  press(3);
-  EXPECT_EQ(heard(), "select 6,1 left ");
+  press(1);
+  EXPECT_EQ(heard(), "select 2,1 left ");
   EXPECT_EQ(selectedRow(), 0);
   EXPECT_EQ(rowsShown(), 5);
   key(Qt::Key_End);
