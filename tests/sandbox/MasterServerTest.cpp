@@ -85,9 +85,9 @@ TEST(MasterServer, faults_can_be_switched_between_the_steps_of_a_conversation) {
   const std::string list = listOf(world);
   EXPECT_EQ(listWith({FaultKind::TruncatedList, 10}, list.size() - 10), list.substr(0, list.size() - 10) + "|nothing");
   EXPECT_EQ(listWith({FaultKind::SplitEndMark}, list.size() - 3), list.substr(0, list.size() - 3) + "|al\\");
-  const std::string data = listWith({FaultKind::RandomData, 6}, 6 << 20);
-  ASSERT_EQ(data.size(), (6u << 20) + 8);
-  for (std::size_t i = 0; i < 6 << 20; i += 6) {
+  const std::string data = listWith({FaultKind::RandomData, 16}, 16 << 20);
+  ASSERT_EQ(data.size(), (16u << 20) + 8);
+  for (std::size_t i = 0; i < 16 << 20; i += 6) {
     ASSERT_EQ(data[i], 127) << "a record that leads away from this machine";
   }
 }

@@ -46,4 +46,9 @@ TEST(WorldPlan, shares_are_met_exactly_and_names_use_every_character_that_a_repl
   EXPECT_EQ(characters.size(), 254u) << "all but the backslash and the NUL";
 }
 
+TEST(CommandLine, a_wrong_number_and_an_address_of_another_machine_are_refused) {
+  EXPECT_THROW(parseCommandLine({"--servers", "12x"}), std::invalid_argument);
+  EXPECT_THROW(parseCommandLine({"--master", "192.0.2.1"}), std::invalid_argument);
+}
+
 }  // namespace vantrel::sandbox
