@@ -4,10 +4,10 @@
 
 namespace vantrel {
 
-void openStores(const StoreContext& context, modFavesIni& stores) {
+bool openStores(const StoreContext& context, modFavesIni& stores) {
   const AppFolder& folder = context.folder;
   const SkippingSteps step;
-  step([&] {
+  const bool favorites = step([&] {
     if (folder.AppFileExists("\\favorites.ini")) {
       stores.LoadFaves();
     } else {
@@ -27,12 +27,13 @@ void openStores(const StoreContext& context, modFavesIni& stores) {
   const std::string settings = folder.path("\\settings.ini");
   if (!folder.AppFileExists("\\settings.ini")) {
     stores.NewSettings(settings);
-    return;
+    return favorites;
   }
   const std::string picture = context.profiles.ReadIniValue(settings, "FAVESPIC", "picture");
   if (!picture.empty()) {
     context.mainWindow.myFaves1.picture.set(picture);
   }
+  return favorites;
 }
 
 }  // namespace vantrel

@@ -5,14 +5,66 @@
 
 #include "platform/Controls.h"
 #include "platform/FavoritesList.h"
+#include "platform/ListView.h"
 #include "platform/ServerGrid.h"
 #include "platform/Timer.h"
 
 namespace vantrel {
 
+// Numbers of the main window's commands; each has the button of its number in `cmdMenu`.
+namespace command {
+enum Number : int {
+  autoJoinOff = 0,
+  showCurrentGame = 1,
+  showPlayers = 2,
+  showMisc = 3,
+  showVehicles = 4,
+  showSettings = 5,
+  showFaves = 6,
+  showTools = 7,
+  toggleBuddies = 8,
+  showServers = 9,
+  autoJoinOn = 10,
+  clearServer = 11,
+  queryServer = 12,
+  exportServers = 14,
+  locateGame = 15,
+  showAbout = 16,
+  launchGame = 18,
+  exportSummary = 19,
+  findPlayer = 23,
+  addFave = 24,
+  updateFave = 25,
+  clearFaveEditor = 26,
+  setFavePicture = 27,
+  editFave = 28,
+  autoRefreshOn = 30,
+  autoRefreshOff = 31,
+  getServerList = 32,
+  deleteFave = 34,
+  removeFavePicture = 36,
+  launchTool = 37,
+  addCurrentFave = 39,
+  startupHeading = 40,
+  downloadMap = 41,
+  explainBuddies = 42,
+};
+}  // namespace command
+
+enum class WindowState { normal = 0, minimized = 1, maximized = 2 };
+
 struct frmMain {
   // `loop` must outlive the window.
   explicit frmMain(Loop& loop);
+
+  // The window itself. Width and Height are the outer ones, in twips.
+  Field<std::string> title;
+  Field<bool> visible{false};
+  Field<WindowState> windowState{WindowState::normal};
+  Field<Color> backColor{colors::systemFace};
+  float Width = 0;
+  float Height = 0;
+  Signal<> resized;  // fired by a view, behind a change of its size or state
 
   // The current server: the one that commands act on. Address and port are as the user may have typed them.
   TextBox txtIP;
@@ -30,7 +82,47 @@ struct frmMain {
   // The name searched for during a sweep; empty for none.
   TextBox txtPlayer;
 
+  // The pages. PicBG lies behind all of them but the server list.
+  Panel PicBG;
+  Panel PicServers;
+  Panel PicChat;
+  Panel PicAbout;
+  Label lblVer;
+
+  // The detail pages: the panel that they share, the list of the teams beside it and a list each.
+  Panel picScore;
+  ListView ListView1;  // Misc.
+  ListView ListView2;  // Players
+  ListView ListView3;  // the teams
+  ListView ListView4;  // Current Game
+  ListView ListView5;  // Vehicles
+  Label lblData;       // name of the server on show
+  TextBox txtPing;
+  Timer tmrRefresh;  // asks the current server again and again
+
+  // The settings page and the help beside it.
+  Panel picSettings;
+  Panel picRef;
+  Label txtFAQ;
+  TextBox txtHaloPath;  // folder of the game; empty or "Not Found" while it is not known
+  Label lblExeStatus;
+  Picture picExeStatus;
+  std::array<CheckBox, 7> chkOptions;
+  CheckBox chkSplash;
+  CheckBox chkOldSplash;
+  TextBox mircChan;
+  ComboBox cmbVid;
+  ComboBox cmbShowTab;
+  ComboBox cmbTab;  // names of pages; nothing hangs on it
+  Picture picJoin;
+  Picture picRefresh;
+
+  // The tools page.
+  Panel picTools;
+
   // The favorites and their editor.
+  Panel picFaves;
+  Panel picFaves2;
   FavoritesList myFaves1;
   TextBox txtID;
   TextBox txtServerName;
@@ -38,12 +130,23 @@ struct frmMain {
   TextBox txtPort2;
   ComboBox cmbGameType;
   TextBox txtPass;
+  ListBox List1;  // about the selected favorite, to be read only
+
+  // Captions and single values, by number.
+  std::array<Label, 48> lblText;
+  std::array<Label, 13> lblText2;
 
   // One button a command, under the command's number.
   std::array<Button, 43> cmdMenu;
 
  private:
-  Connection countOnNotice_;
+  void nameButtons();
+  void nameLabels();
+  void fillLists();
+  void pairOptions(command::Number one, command::Number other);
+  void releaseWhenPressed(command::Number pressed, command::Number released);
+
+  std::vector<Connection> connections_;
 };
 
 }  // namespace vantrel

@@ -7,37 +7,85 @@
 #include <vector>
 
 #include "platform/Field.h"
+#include "platform/Placement.h"
 
 namespace vantrel {
 
-// 0x00BBGGRR: red is the lowest byte.
+// 0x00BBGGRR: red is the lowest byte. With the top bit set it names a colour of the system.
 using Color = std::uint32_t;
 
 namespace colors {
 inline constexpr Color black = 0;
 inline constexpr Color red = 255;
+inline constexpr Color green = 65280;
 inline constexpr Color white = 16777215;
+inline constexpr Color systemFace = 0x8000000F;  // what lies behind a control, unless it has a colour of its own
+inline constexpr Color systemText = 0x80000008;  // what text is written in, likewise
 }  // namespace colors
+
+// Codes of the keys that the logic looks at; a key that types has the code of its character.
+namespace keys {
+inline constexpr int backspace = 8;
+inline constexpr int tab = 9;
+inline constexpr int enter = 13;
+}  // namespace keys
+
+// One press of a key that types a character, or of Enter, Tab or Backspace, before it acts. Keys that move the cursor,
+// delete or copy are no presses.
+struct KeyPress {
+  int code = 0;  // 0 when a listener has swallowed it: it does not act then
+
+  void swallow() { code = 0; }
+};
 
 struct TextBox {
   Field<std::string> text;
   Field<bool> enabled{true};
+  Field<std::string> toolTip;
+  Field<Color> foreColor{colors::systemText};
+
+  Signal<KeyPress&> keyPress;    // fired by a view; a listener may wait
+  Signal<std::string&> pasting;  // fired by a view with a text about to be pasted; a listener may change it, not wait
 };
 
 struct Label {
   Field<std::string> caption;
+  Field<bool> visible{true};
+  Field<Color> foreColor{colors::systemText};
+  Field<Color> backColor{colors::systemFace};
 };
 
 struct Button {
   Field<std::string> caption;
   Field<bool> enabled{true};
   Field<bool> visible{true};
+  Field<int> value{0};  // of a button in an option pair: other than 0 when it is the pressed one
+};
+
+struct CheckBox {
+  Field<std::string> caption;
+  Field<int> value{0};  // 0 unchecked, 1 checked, 2 neither
+
+  bool isChecked() const { return value.get() == 1; }
 };
 
 // A text with a list of proposals; the text need not be one of them.
 struct ComboBox {
   Field<std::string> text;
   Field<std::vector<std::string>> items;
+};
+
+// A small picture out of a list of pictures with names.
+struct Picture {
+  Field<std::string> image;  // name of the picture on show
+
+  Signal<> clicked;  // fired by a view
+};
+
+// A part of a window that is shown and hidden as one, with what stands in it.
+struct Panel {
+  Field<bool> visible{false};
+  Field<Placement> place;
 };
 
 // Lines of text, numbered from 0.

@@ -85,6 +85,8 @@ class ServerGrid {
   // Grows with each clear: a row number taken before belongs to another row, or none, once it has changed.
   std::uint32_t generation() const { return generation_; }
 
+  Field<bool> visible{false};
+
   // The two switches that hold off redrawing. Cells can be written with both off, and a view shows the result when
   // both are on again.
   Field<bool> redraw{true};

@@ -1,8 +1,10 @@
 // The fakes keep the contracts that the real adapters keep, so that no story below stands on a dream.
 #include "support/FakeFiles.h"
 #include "support/FakeNetwork.h"
+#include "support/FakeRegistry.h"
 #include "support/FilesContract.h"
 #include "support/LoopContract.h"
+#include "support/RegistryContract.h"
 #include "support/TcpSocketContract.h"
 #include "support/UdpSocketContract.h"
 
@@ -69,10 +71,17 @@ struct FakeFilesHarness {
   FakeFiles fake;
 };
 
+struct FakeRegistryHarness {
+  Registry& registry() { return fake; }
+
+  FakeRegistry fake;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, LoopContract, VirtualLoopHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, UdpSocketContract, FakeUdpHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, TcpSocketContract, FakeTcpHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, FilesContract, FakeFilesHarness);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, RegistryContract, FakeRegistryHarness);
 
 }  // namespace
 }  // namespace vantrel

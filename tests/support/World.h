@@ -5,11 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "core/Commands.h"
-#include "core/StoreRewrites.h"
+#include "appearance/WindowLayout.h"
+#include "browser/InputBoxes.h"
+#include "browser/Pages.h"
+#include "core/StartAndEnd.h"
+#include "join/AutoSwitches.h"
+#include "query/DetailView.h"
 #include "query/MasterExchange.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeFiles.h"
 #include "support/FakeNetwork.h"
+#include "support/FakeRegistry.h"
 
 namespace vantrel {
 
@@ -24,7 +30,8 @@ struct FakeNotices : Notices {
 struct World {
   World() {
     files.makeFolder("/app");
-    commands.add(32, [this] { exchange.start(); });
+    commands.add(command::getServerList, [this] { exchange.start(); });
+    commands.add(command::locateGame, [this] { game.locate(); });
   }
 
   // The server that command 32 talks to.
@@ -64,6 +71,16 @@ struct World {
     }
     return all;
   }
+  // A setting as the registry holds it, "Not Found" when it does not.
+  std::string setting(const std::string& name) const {
+    return reg.GetRegValue(RegistryRoot::currentUser, parametersKey, name);
+  }
+  void storeSetting(const std::string& name, const std::string& value) {
+    registry.write(RegistryRoot::currentUser, parametersKey, name, RegistryType::text, value);
+  }
+  void storeGamePath(const std::string& path) {
+    registry.write(RegistryRoot::currentUser, settingsKey, "InitDir", RegistryType::text, path);
+  }
   // Path of a file in the program's folder.
   static std::string path(const std::string& name) { return "/app/" + name; }
   std::string onDisk(const std::string& name) const { return files.bytes(path(name)); }
@@ -87,7 +104,21 @@ struct World {
   SweepProgress progress;
   Sweep sweep{{ws2, loop, mainWindow, players, stores, folder, progress}};
   MasterExchange exchange{{ws1, loop, mainWindow, players, sweep, progress, site}};
-  Commands commands{notices};
+  FakeRegistry registry;
+  FakeDialogs dialogs;
+  FakeInstanceLock lock;
+  Version version{1, 2, 3};
+  modReg reg{registry};
+  Commands commands{mainWindow, notices};
+  GameFolder game{mainWindow, reg, dialogs};
+  Settings settings{mainWindow, reg, commands, game, notices};
+  Pages pages{mainWindow, commands, notices};
+  InputBoxes boxes{mainWindow, commands, notices, loop};
+  AutoSwitches switches{mainWindow, commands, settings};
+  WindowLayout layout{mainWindow};
+  DetailView detail{mainWindow, commands, version};
+  frmSplash splash{loop};
+  StartContext startContext{context, stores, rewrites, settings, splash, lock, version};
 };
 
 // A reply with a name and whatever keys and values follow, like "mapname\bloodgulch".

@@ -1,0 +1,31 @@
+// The rules of the boxes that an address, a port or a name is typed into.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/Commands.h"
+#include "core/frmMain.h"
+#include "platform/Notices.h"
+
+namespace vantrel {
+
+class InputBoxes {
+ public:
+  // All of it must outlive this.
+  InputBoxes(frmMain& window, Commands& commands, Notices& notices, Loop& loop);
+
+ private:
+  void splitAddress(TextBox& address, TextBox& port);
+  void runOnEnter(TextBox& box, command::Number number);
+  void allowOnly(TextBox& box, const std::string& characters, const std::string& title, const std::string& text);
+  void refuse(const std::string& title, const std::string& text);
+
+  Commands& commands_;
+  Notices& notices_;
+  Loop& loop_;
+  bool refusing_ = false;  // a balloon is up: further wrong keys need no second one
+  std::vector<Connection> connections_;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,42 @@
+#include "join/AutoSwitches.h"
+
+namespace vantrel {
+
+AutoSwitches::AutoSwitches(frmMain& window, Commands& commands, Settings& settings)
+    : window_(window), settings_(settings) {
+  commands.add(command::autoRefreshOn, [this] {
+    window_.cmdMenu[command::autoRefreshOn].value.set(1);
+    window_.tmrRefresh.switchOn();
+    turn("AutoRefresh", window_.picRefresh, State::on);
+  });
+  commands.add(command::autoRefreshOff, [this] {
+    window_.cmdMenu[command::autoRefreshOff].value.set(1);
+    window_.tmrRefresh.switchOff();
+    turn("AutoRefresh", window_.picRefresh, State::off);
+  });
+  commands.add(command::autoJoinOn, [this] {
+    window_.cmdMenu[command::autoJoinOn].value.set(1);
+    window_.tmrRefresh.switchOn();
+    turn("AutoJoin", window_.picJoin, State::on);
+  });
+  // Auto refresh is a switch of its own and goes on.
+  commands.add(command::autoJoinOff, [this] {
+    window_.cmdMenu[command::autoJoinOff].value.set(1);
+    turn("AutoJoin", window_.picJoin, State::off);
+  });
+  connections_.push_back(window.picJoin.clicked.connect([this] {
+    window_.cmdMenu[command::autoJoinOn].visible.set(true);
+    window_.cmdMenu[command::autoJoinOff].visible.set(true);
+  }));
+  connections_.push_back(window.picRefresh.clicked.connect([this] {
+    window_.cmdMenu[command::autoRefreshOn].visible.set(true);
+    window_.cmdMenu[command::autoRefreshOff].visible.set(true);
+  }));
+}
+
+void AutoSwitches::turn(const std::string& setting, Picture& picture, State state) {
+  settings_.setParameter(setting, state == State::on ? "1" : "0");
+  picture.image.set(state == State::on ? "on" : "off");
+}
+
+}  // namespace vantrel

@@ -1,0 +1,28 @@
+// The two switches that the user sets by pairs of option buttons: auto join and auto refresh.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/Commands.h"
+#include "core/Settings.h"
+#include "core/frmMain.h"
+
+namespace vantrel {
+
+class AutoSwitches {
+ public:
+  // Adds the commands of the four buttons to `commands`. All of it must outlive this.
+  AutoSwitches(frmMain& window, Commands& commands, Settings& settings);
+
+ private:
+  enum class State { off, on };
+
+  void turn(const std::string& setting, Picture& picture, State state);
+
+  frmMain& window_;
+  Settings& settings_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,65 @@
+// The desktop around the program: a lock that another copy may hold, a user who answers questions, and a shell.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Dialogs.h"
+#include "platform/InstanceLock.h"
+#include "platform/Shell.h"
+
+namespace vantrel {
+
+struct FakeInstanceLock : InstanceLock {
+  bool acquire() override { return held = !takenByOther; }
+
+  bool takenByOther = false;
+  bool held = false;
+};
+
+// Answers from a queue; a question without an answer there fails the test.
+struct FakeDialogs : Dialogs {
+  std::optional<std::string> askFile(const FileQuestion& question) override { return answer(question.filter); }
+  std::optional<std::string> askText(const std::string& title, const std::string& text,
+                                     const std::string& /*preset*/) override {
+    return answer(title + "|" + text);
+  }
+  bool askYesNo(const std::string& title, const std::string& text) override {
+    return answer(title + "|" + text) == "yes";
+  }
+  void showMessage(const std::string& title, const std::string& text) override { answer(title + "|" + text); }
+
+  std::deque<std::optional<std::string>> answers;
+  std::vector<std::string> asked;
+
+ private:
+  std::optional<std::string> answer(const std::string& question) {
+    asked.push_back(question);
+    if (answers.empty()) {
+      ADD_FAILURE() << "nobody answers: " << question;
+      return std::nullopt;
+    }
+    const std::optional<std::string> first = answers.front();
+    answers.pop_front();
+    return first;
+  }
+};
+
+// Opens everything, unless it is told not to.
+struct FakeShell : Shell {
+  bool open(const std::string& target) override {
+    opened.push_back(target);
+    return opens;
+  }
+  void setClipboard(const std::string& text) override { clipboard = text; }
+
+  bool opens = true;
+  std::vector<std::string> opened;
+  std::string clipboard;
+};
+
+}  // namespace vantrel
