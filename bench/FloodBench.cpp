@@ -64,8 +64,8 @@ void benchFlood(Report& report) {
   sandbox::SandboxWorld world(settings);
   world.start();
   QTemporaryDir folder;
-  Program program({masterAddress, "", ""}, folder.path().toStdString());
-  program.window().show();
+  Program program({masterAddress, "", ""}, {1, 0, 0}, placesIn(folder));
+  startAtOnce(program);
   runEventsUntil([] { return false; }, 300);
   resetPeakMemory();
   const double memoryBefore = static_cast<double>(peakMemoryBytes());

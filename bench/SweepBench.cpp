@@ -40,8 +40,8 @@ SweepFigures sweep(std::size_t servers) {
   sandbox::SandboxWorld world(everyoneAnswers(servers));
   world.start();
   QTemporaryDir folder;
-  Program program({masterAddress, "", ""}, folder.path().toStdString());
-  program.window().show();
+  Program program({masterAddress, "", ""}, {1, 0, 0}, placesIn(folder));
+  startAtOnce(program);
   auto* const get = program.window().findChild<QPushButton*>("cmdMenu32");
   auto* const view = program.window().findChild<ServerGridView*>();
   runEventsUntil([] { return false; }, 300);

@@ -1,6 +1,7 @@
 // Measures the program against the targets it has to reach; the exit code tells whether it reached them all.
 
 #include <QApplication>
+#include <string_view>
 
 #include "SweepBench.h"
 #include "desktop/window/Theme.h"
@@ -9,9 +10,13 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
+  if (argc > 1 && std::string_view(argv[1]) == "--cold-start") {
+    return vantrel::bench::coldStart(argc, argv);
+  }
   QApplication application(argc, argv);
   vantrel::applyTheme(application);
   vantrel::bench::Report report;
+  vantrel::bench::benchStart(report);
   vantrel::bench::benchFlood(report);
   vantrel::bench::benchSweeps(report);
   return report.allReached() ? 0 : 1;

@@ -1,4 +1,4 @@
-#include "app/AppDir.h"
+#include "app/Places.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -6,17 +6,33 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "desktop/adapters/WinePrefix.h"
+
 namespace vantrel {
+namespace {
+
+std::string bytes(const QString& path) {
+  return QFile::encodeName(path).toStdString();
+}
+
+QString usersFolder(QStandardPaths::StandardLocation location) {
+  return QStandardPaths::writableLocation(location) + QStringLiteral("/vantrel-ce");
+}
 
 std::string findAppDir() {
   const QString own = QCoreApplication::applicationDirPath();
   if (QFileInfo(own).isWritable()) {
-    return QFile::encodeName(own).toStdString();
+    return bytes(own);
   }
-  const QString users =
-      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/vantrel-ce");
+  const QString users = usersFolder(QStandardPaths::GenericDataLocation);
   QDir().mkpath(users);
-  return QFile::encodeName(users).toStdString();
+  return bytes(users);
+}
+
+}  // namespace
+
+Places findPlaces() {
+  return {findAppDir(), bytes(usersFolder(QStandardPaths::GenericConfigLocation)), findWinePrefix()};
 }
 
 }  // namespace vantrel

@@ -1,12 +1,19 @@
-// Where the program keeps its files.
+// Where the program keeps its files, and where the game may be.
 #pragma once
 
 #include <string>
 
 namespace vantrel {
 
-// The program's own folder when it can be written, else the user's data folder, which is made if need be. With no
-// separator at its end. REQUIRES: an application object.
-std::string findAppDir();
+// The folders that the program works with, each without a separator at its end.
+struct Places {
+  std::string appDir;      // of the stores; exists
+  std::string configDir;   // of the settings and the lock; made when it is needed
+  std::string winePrefix;  // of the Windows programs, among them the game; need not exist
+};
+
+// The stores stand in the program's own folder when it can be written, else in the user's data folder, which is made
+// if need be. REQUIRES: an application object.
+Places findPlaces();
 
 }  // namespace vantrel

@@ -3,45 +3,69 @@
 #include <QApplication>
 #include <utility>
 
-#include "core/FailureStyles.h"
-#include "core/StoresAtStart.h"
-#include "core/modSGrid.h"
+#include "desktop/window/HelpText.h"
 
 namespace vantrel {
-namespace {
 
-constexpr int getServerList = 32;
-
-}  // namespace
-
-Program::Program(Site site, const std::string& appDir)
+Program::Program(Site site, const Version& version, const Places& places)
     : site_(std::move(site)),
-      folder_(files_, appDir),
+      winePrefix_(files_, places.winePrefix),
+      registry_(files_, loop_, places.configDir, &winePrefix_),
+      lock_(places.configDir),
+      folder_(files_, places.appDir),
       frmMain_(loop_),
+      frmSplash_(loop_),
       profiles_(files_, loop_),
       storeContext_{profiles_, loop_, notices_, folder_, site_, frmMain_, frmBuddies_, frmMirror_},
       stores_(storeContext_),
-      commands_(notices_),
+      rewrites_(storeContext_, stores_),
+      modReg_(registry_),
+      commands_(frmMain_, notices_),
+      gameFolder_(frmMain_, modReg_, dialogs_),
+      settings_(frmMain_, modReg_, commands_, gameFolder_, notices_),
+      pages_(frmMain_, commands_, notices_),
+      inputBoxes_(frmMain_, commands_, notices_, loop_),
+      autoSwitches_(frmMain_, commands_, settings_),
+      layout_(frmMain_),
+      detailView_(frmMain_, commands_, version),
       sweep_({ws2_, loop_, frmMain_, frmPlayers_, stores_, folder_, progress_}),
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
+      startAndEnd_({storeContext_, stores_, rewrites_, settings_, frmSplash_, lock_, version},
+                   {.layoutPanels = [this] { layout_.layoutPanels(); },
+                    .loadColors = {},
+                    .LoadTools = {},
+                    .prepareFavorites = {},
+                    .handOverLink = {}}),
+      splashWindow_(frmSplash_),
       window_(frmMain_, commands_, progress_) {
-  frmMain_.grdServers.updating.set(false);
-  SetupGrid(frmMain_.grdServers);
-  stopSilently([this] { stores_.LoadBuddies(); });
-  frmMain_.grdServers.updating.set(true);
-  openStores(storeContext_, stores_);
-  commands_.add(getServerList, [this] { exchange_.start(); });
-  closed_ = window_.closed.connect([this] { end(); });
+  frmMain_.txtFAQ.caption.set(helpText());
+  commands_.add(command::getServerList, [this] { exchange_.start(); });
+  commands_.add(command::locateGame, [this] { gameFolder_.locate(); });
+  startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
+  connectEnd();
+}
+
+void Program::connectEnd() {
+  connections_.push_back(window_.closed.connect([this] { startAndEnd_.close(); }));
+  connections_.push_back(startAndEnd_.ended.connect([this] {
+    loop_.beginEnding();
+    QApplication::quit();
+  }));
+  connections_.push_back(startAndEnd_.secondCopy.connect([this] {
+    notices_.waitForNotice();
+    loop_.beginEnding();
+    QApplication::quit();
+  }));
 }
 
 void Program::run() {
-  window_.show();
+  loop_.startTimer(0, TimerKind::once, [this] { start(); });
   QApplication::exec();
 }
 
 void Program::end() {
   loop_.beginEnding();
-  QApplication::quit();
+  startAndEnd_.close();
 }
 
 }  // namespace vantrel

@@ -3,18 +3,32 @@
 
 #include <string>
 
+#include "app/Places.h"
+#include "appearance/WindowLayout.h"
+#include "browser/InputBoxes.h"
+#include "browser/Pages.h"
 #include "core/AppFolder.h"
 #include "core/Commands.h"
+#include "core/GameFolder.h"
 #include "core/ProfileFiles.h"
+#include "core/Settings.h"
 #include "core/Site.h"
+#include "core/StartAndEnd.h"
 #include "core/StoreRewrites.h"
 #include "core/modFavesIni.h"
 #include "desktop/adapters/DiskFiles.h"
+#include "desktop/adapters/LockFile.h"
 #include "desktop/adapters/PosixTcpSocket.h"
 #include "desktop/adapters/PosixUdpSocket.h"
+#include "desktop/adapters/QtDialogs.h"
 #include "desktop/adapters/QtLoop.h"
 #include "desktop/adapters/QtNotices.h"
+#include "desktop/adapters/SettingsRegistry.h"
+#include "desktop/adapters/WinePrefix.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/SplashWindow.h"
+#include "join/AutoSwitches.h"
+#include "query/DetailView.h"
 #include "query/MasterExchange.h"
 #include "query/Sweep.h"
 
@@ -22,41 +36,62 @@ namespace vantrel {
 
 class Program {
  public:
-  // `appDir`: the folder of the stores, which exists. REQUIRES: a QApplication, which outlives the program.
-  Program(Site site, const std::string& appDir);
+  // REQUIRES: a QApplication, which outlives the program and does not quit with its last window.
+  Program(Site site, const Version& version, const Places& places);
 
   MainWindow& window() { return window_; }
   frmMain& model() { return frmMain_; }
   SweepProgress& progress() { return progress_; }
   Sweep& sweep() { return sweep_; }
   QtLoop& loop() { return loop_; }
+  modReg& registry() { return modReg_; }
 
-  // Shows the window and returns when the program has ended.
+  // Comes up: the splash and then the main window. It returns once the first of them is on the screen.
+  void start() { startAndEnd_.start(); }
+  // Comes up and returns when the program has ended.
   void run();
-  // Ends the program in order: waits are cut short, and `run` returns once every handler has.
+  // Ends the program in order but in haste: waits are cut short, and `run` returns once every handler has.
   void end();
 
  private:
+  void connectEnd();
+
   Site site_;
   QtLoop loop_;
   DiskFiles files_;
   QtNotices notices_{loop_};
+  QtDialogs dialogs_{loop_};
+  WinePrefix winePrefix_;
+  SettingsRegistry registry_;
+  LockFile lock_;
   PosixTcpSocket ws1_{loop_.nesting()};
   PosixUdpSocket ws2_{loop_.nesting()};
   AppFolder folder_;
   frmMain frmMain_;
+  frmSplash frmSplash_;
   frmBuddies frmBuddies_;
   frmPlayers frmPlayers_;
   frmMirror frmMirror_;
   ProfileFiles profiles_;
   StoreContext storeContext_;
   modFavesIni stores_;
+  StoreRewrites rewrites_;
+  modReg modReg_;
   Commands commands_;
+  GameFolder gameFolder_;
+  Settings settings_;
+  Pages pages_;
+  InputBoxes inputBoxes_;
+  AutoSwitches autoSwitches_;
+  WindowLayout layout_;
+  DetailView detailView_;
   SweepProgress progress_;
   Sweep sweep_;
   MasterExchange exchange_;
+  StartAndEnd startAndEnd_;
+  SplashWindow splashWindow_;
   MainWindow window_;
-  Connection closed_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace vantrel

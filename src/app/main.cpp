@@ -5,9 +5,10 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "app/AppDir.h"
+#include "app/Places.h"
 #include "app/Program.h"
 #include "desktop/adapters/PosixEndSignals.h"
+#include "desktop/window/ProgramIcon.h"
 #include "desktop/window/Theme.h"
 
 namespace {
@@ -32,10 +33,15 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("vantrel-ce");
   QApplication::setApplicationDisplayName("Vantrel CE");
   QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setDesktopFileName("vantrel-ce");
+  QApplication::setWindowIcon(vantrel::programIcon());
   vantrel::applyTheme(application);
   {
     vantrel::PosixEndSignals endSignals;  // kept to the end, so that a second request does not cut off the last write
-    vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE}, vantrel::findAppDir());
+    vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE},
+                             {VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_REVISION},
+                             vantrel::findPlaces());
     const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });
     program.run();
   }

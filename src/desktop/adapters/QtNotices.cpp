@@ -1,93 +1,84 @@
 #include "desktop/adapters/QtNotices.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QMouseEvent>
+#include <QCursor>
 #include <QScreen>
-#include <QTimer>
-#include <QVBoxLayout>
 
+#include "desktop/adapters/NoticeWindow.h"
 #include "desktop/text/Cp1252.h"
-#include "platform/Signal.h"
 
 namespace vantrel {
 namespace {
 
-constexpr int popMsgTime = 5000;   // milliseconds
-constexpr int balloonTime = 8000;  // milliseconds
-constexpr int lookInterval = 20;   // milliseconds
-constexpr int margin = 16;
+constexpr int lookInterval = 20;  // milliseconds
+constexpr QRect noScreen(0, 0, 640, 480);
+
+QRect areaOf(const QScreen* screen) {
+  const QScreen* const known = screen != nullptr ? screen : QGuiApplication::primaryScreen();
+  return known != nullptr ? known->availableGeometry() : noScreen;
+}
+
+// Of the window that the user works in, or of any other window of the program.
+QRect programArea() {
+  const QWidget* window = QApplication::activeWindow();
+  for (const QWidget* const each : QApplication::topLevelWidgets()) {
+    if (window == nullptr && each->isVisible() && each->windowType() == Qt::Window) {
+      window = each;
+    }
+  }
+  return areaOf(window != nullptr ? window->screen() : nullptr);
+}
+
+QList<QRect> placesOf(const std::vector<NoticeWindow*>& notices, const NoticeWindow& but) {
+  QList<QRect> places;
+  for (const NoticeWindow* const notice : notices) {
+    if (notice != nullptr && notice != &but && notice->isVisible()) {
+      places << notice->geometry();
+    }
+  }
+  return places;
+}
 
 }  // namespace
 
-// A notice without a border that goes by itself after a while or with a click. It never takes the focus.
-class NoticeWindow : public QFrame {
- public:
-  NoticeWindow() : QFrame(nullptr, Qt::ToolTip | Qt::FramelessWindowHint) {
-    setObjectName("notice");
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(14, 10, 14, 12);
-    title_.setWordWrap(true);
-    text_.setWordWrap(true);
-    title_.setTextFormat(Qt::PlainText);
-    text_.setTextFormat(Qt::PlainText);
-    QFont bold = title_.font();
-    bold.setBold(true);
-    title_.setFont(bold);
-    column->addWidget(&title_);
-    column->addWidget(&text_);
-    timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, [this] { end(); });
-  }
-
-  void present(const QString& title, const QString& text, int milliseconds) {
-    title_.setText(title);
-    title_.setVisible(!title.isEmpty());
-    text_.setText(text);
-    setFixedWidth(300);
-    adjustSize();
-    const QRect screen = QApplication::primaryScreen()->availableGeometry();
-    move(screen.right() - width() - margin, screen.bottom() - height() - margin);
-    show();
-    raise();
-    timer_.start(milliseconds);
-  }
-
-  Signal<> ended;
-
- protected:
-  void mousePressEvent(QMouseEvent* /*event*/) override { end(); }
-
- private:
-  void end() {
-    timer_.stop();
-    hide();
-    ended.fire();
-  }
-
-  QLabel title_;
-  QLabel text_;
-  QTimer timer_;
-};
-
-QtNotices::QtNotices(Loop& loop) : loop_(loop) {}
+QtNotices::QtNotices(Loop& loop, int milliseconds) : loop_(loop), time_(milliseconds) {}
 
 QtNotices::~QtNotices() = default;
 
 void QtNotices::ShowPopMsg(const std::string& text) {
   if (!popMsg_) {
-    popMsg_ = std::make_unique<NoticeWindow>();
+    popMsg_ = std::make_unique<NoticeWindow>(NoticeKind::popMsg, time_);
   }
-  popMsg_->present({}, fromCp1252(text), popMsgTime);
+  popMsg_->present({}, fromCp1252(text), programArea(), placesOf(balloons_, *popMsg_));
+  popMsgOver_ = loop_.tickCount() + static_cast<std::uint64_t>(time_);
 }
 
 void QtNotices::popUpBalloon(const std::string& text, const std::string& title) {
-  NoticeWindow balloon;
-  bool ended = false;
-  const Connection listening = balloon.ended.connect([&ended] { ended = true; });
-  balloon.present(fromCp1252(title.empty() ? "Vantrel CE" : title), fromCp1252(text), balloonTime);
-  while (!ended && !loop_.ending()) {
+  if (loop_.ending()) {
+    return;
+  }
+  if (balloons_.size() >= mostBalloons) {
+    presentBalloon(*balloons_.back(), text, title);
+    return;
+  }
+  NoticeWindow balloon(NoticeKind::balloon, time_);
+  balloons_.push_back(&balloon);
+  presentBalloon(balloon, text, title);
+  while (balloon.isVisible() && !loop_.ending()) {
+    loop_.wait(lookInterval);
+  }
+  balloons_.pop_back();
+}
+
+void QtNotices::presentBalloon(NoticeWindow& balloon, const std::string& text, const std::string& title) {
+  std::vector<NoticeWindow*> others = balloons_;
+  others.push_back(popMsg_.get());
+  balloon.present(fromCp1252(title.empty() ? "Vantrel CE" : title), fromCp1252(text),
+                  areaOf(QGuiApplication::screenAt(QCursor::pos())), placesOf(others, balloon));
+}
+
+void QtNotices::waitForNotice() {
+  while (popMsg_ && popMsg_->isVisible() && loop_.tickCount() < popMsgOver_ && !loop_.ending()) {
     loop_.wait(lookInterval);
   }
 }

@@ -1,95 +1,182 @@
 #include "desktop/window/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
+#include <QScreen>
+#include <QTimer>
 
-#include "desktop/grid/ServerGridView.h"
-#include "desktop/window/Bindings.h"
-#include "desktop/window/ProgressLine.h"
+#include "desktop/text/Cp1252.h"
+#include "desktop/window/AboutPage.h"
+#include "desktop/window/FaveEditor.h"
+#include "desktop/window/FavesPage.h"
+#include "desktop/window/FocusKeeper.h"
+#include "desktop/window/HeaderStrip.h"
+#include "desktop/window/HelpPanel.h"
+#include "desktop/window/PagePanel.h"
+#include "desktop/window/ServerPage.h"
+#include "desktop/window/SettingsPage.h"
+#include "desktop/window/ToolsPage.h"
 
 namespace vantrel {
 namespace {
 
-constexpr int getServerList = 32;
+// In pixels at 100 %, without the frame.
+constexpr QSize designSize(671, 553);
+constexpr QSize smallestSize(671, 500);
+constexpr int pagesTop = 93;
+
+WindowState stateOf(const QWidget& window) {
+  return window.isMinimized()   ? WindowState::minimized
+         : window.isMaximized() ? WindowState::maximized
+                                : WindowState::normal;
+}
+
+Qt::WindowStates toolkitState(WindowState state) {
+  switch (state) {
+    case WindowState::minimized:
+      return Qt::WindowMinimized;
+    case WindowState::maximized:
+      return Qt::WindowMaximized;
+    default:
+      return Qt::WindowNoState;
+  }
+}
 
 }  // namespace
 
 MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progress)
-    : model_(model), commands_(commands) {
+    : model_(model),
+      header_(new HeaderStrip(model, commands, this)),
+      serverPage_(new ServerPage(model, commands, progress, this)),
+      backdrop_(new QWidget(this)),
+      focusKeeper_(new FocusKeeper(this, [this] { return firstOfPage(); })) {
   setObjectName("frmMain");
-  setWindowTitle("Marrowind - Vantrel CE");
-  auto* const page = new QVBoxLayout(this);
-  page->setContentsMargins(0, 0, 0, 0);
-  page->setSpacing(0);
-  page->addWidget(makeHeader());
-  page->addWidget(new ServerGridView(model.grdServers, this), 1);
-  page->addWidget(makeFooter(progress));
-  resize(760, 553);
-  setMinimumSize(520, 320);
+  qApp->installEventFilter(this);
+  backdrop_->setObjectName("backdrop");
+  backdrop_->setAutoFillBackground(true);
+  bindings_.bindVisible(*backdrop_, model.PicBG.visible);
+  makePages(commands);
+  takeFirstSize();
+  bindWindow();
 }
 
-QWidget* MainWindow::makeHeader() {
-  auto* const header = new QFrame(this);
-  header->setObjectName("header");
-  auto* const row = new QHBoxLayout(header);
-  row->setContentsMargins(12, 9, 14, 9);
-  row->setSpacing(22);
+MainWindow::~MainWindow() = default;
 
-  auto* const get = new QPushButton(header);
-  get->setObjectName("cmdMenu32");
-  get->setToolTip(tr("Asks the master server for all game servers and queries each of them"));
-  for (Connection& connection : bindButton(*get, model_.cmdMenu[getServerList])) {
-    connections_.push_back(std::move(connection));
+// From the bottom of the pile to its top, but for the help: it lies beneath the editor of the favorites and comes
+// behind it in the order of the tab key.
+void MainWindow::makePages(Commands& commands) {
+  for (const auto& [panel, name] : {std::pair(&model_.PicBG, "PicBG"), std::pair(&model_.PicServers, "PicServers"),
+                                    std::pair(&model_.PicChat, "PicChat")}) {
+    new PagePanel(*panel, name, this);
   }
-  connect(get, &QPushButton::clicked, this, [this] { commands_.cmdMenu_Click(getServerList); });
-  get->setFocus();
-
-  row->addWidget(get);
-  row->addStretch(1);
-  addTotal(*row, "txtPlayers", tr("Players"), model_.txtPlayers);
-  addTotal(*row, "txtCTF", tr("CTF"), model_.txtCTF);
-  addTotal(*row, "txtSlayer", tr("Slayer"), model_.txtSlayer);
-  addTotal(*row, "txtOther", tr("Other"), model_.txtOther);
-  return header;
+  details_ = std::make_unique<DetailPages>(model_, commands, this);
+  new AboutPage(model_, commands, this);
+  auto* const settings = new SettingsPage(model_, commands, this);
+  auto* const tools = new ToolsPage(model_, commands, this);
+  auto* const faves = new FavesPage(model_, commands, this);
+  auto* const editor = new FaveEditor(model_, commands, this);
+  auto* const help = new HelpPanel(model_, commands, this);
+  editor->raise();
+  for (PagePanel* const page :
+       {static_cast<PagePanel*>(settings), static_cast<PagePanel*>(tools), static_cast<PagePanel*>(faves)}) {
+    page->endBefore(help);
+  }
+  help->beginBelow(editor);
 }
 
-void MainWindow::addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model) {
-  auto* const column = new QVBoxLayout;
-  column->setSpacing(0);
-  auto* const number = new QLabel(this);
-  number->setObjectName(name);
-  number->setAccessibleName(caption);
-  number->setProperty("role", "total");
-  number->setAlignment(Qt::AlignRight);
-  number->setMinimumWidth(52);
-  auto* const label = new QLabel(caption, this);
-  label->setProperty("role", "totalCaption");
-  label->setAlignment(Qt::AlignRight);
-  connections_.push_back(bindText(*number, model));
-  column->addWidget(number);
-  column->addWidget(label);
-  row.addLayout(column);
+void MainWindow::takeFirstSize() {
+  const QScreen* const screen = QApplication::primaryScreen();
+  const QRect free = screen == nullptr ? QRect({0, 0}, designSize) : screen->availableGeometry();
+  setMinimumSize(smallestSize.boundedTo(free.size()));
+  resize(designSize.boundedTo(free.size()));
+  move(free.center() - rect().center());
 }
 
-QWidget* MainWindow::makeFooter(SweepProgress& progress) {
-  auto* const footer = new ProgressLine(progress, this);
-  auto* const row = new QHBoxLayout(footer);
-  row->setContentsMargins(0, ProgressLine::barHeight, 14, 0);
-  auto* const count = new QLabel(footer);
-  count->setObjectName("lblCount");
-  count->setAccessibleName(tr("Server count"));
-  connections_.push_back(bindCaption(*count, model_.lblCount));
-  row->addStretch(1);
-  row->addWidget(count);
-  return footer;
+void MainWindow::bindWindow() {
+  const auto showTitle = [this] { setWindowTitle(fromCp1252(model_.title.get())); };
+  showTitle();
+  bindings_.keep(model_.title.changed.connect(showTitle));
+  applyState();
+  bindings_.keep(model_.windowState.changed.connect([this] { applyState(); }));
+  bindings_.bindVisible(*this, model_.visible);
+}
+
+void MainWindow::applyState() {
+  const WindowState wanted = model_.windowState.get();
+  if (stateOf(*this) != wanted) {
+    setWindowState(toolkitState(wanted));
+  }
+}
+
+// The window system tells a new size and a new state one after the other: the model learns of both at once.
+void MainWindow::reportSoon() {
+  if (!reportWaits_) {
+    reportWaits_ = true;
+    QTimer::singleShot(0, this, [this] { reportSize(); });
+  }
+}
+
+void MainWindow::reportSize() {
+  reportWaits_ = false;
+  if (!isVisible()) {
+    return;
+  }
+  const WindowState state = stateOf(*this);
+  model_.windowState.set(state);
+  if (state != WindowState::minimized) {
+    model_.Width = static_cast<float>(frameGeometry().width()) * twipsPerPixel;
+    model_.Height = static_cast<float>(frameGeometry().height()) * twipsPerPixel;
+  }
+  model_.resized.fire();
+}
+
+// The pages follow the header in the order of the tab key, and what is not on show is skipped. A page without anything
+// that takes the focus leaves it to its tab.
+QWidget* MainWindow::firstOfPage() {
+  QWidget* const first = firstFocusable(serverPage_);
+  return first == nullptr || header_->isAncestorOf(first) ? header_->tabOnShow() : first;
+}
+
+// When the program quits, its windows are asked to close first, and one that stays would hold it up.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  quitting_ = quitting_ || (watched == qApp && event->type() == QEvent::Quit);
+  return false;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->accept();
-  closed.fire();
+  event->setAccepted(quitting_);
+  if (!quitting_) {
+    closed.fire();
+  }
+}
+
+void MainWindow::resizeEvent(QResizeEvent* /*event*/) {
+  header_->setGeometry(0, 0, width(), HeaderStrip::stripHeight);
+  const QRect pages(0, pagesTop, width(), std::max(0, height() - pagesTop));
+  serverPage_->setGeometry(pages);
+  backdrop_->setGeometry(pages);
+  reportSoon();
+}
+
+// The frame, which belongs to the window's size, is often known no sooner than when the window has got its place.
+void MainWindow::moveEvent(QMoveEvent* /*event*/) {
+  if (model_.Width != static_cast<float>(frameGeometry().width()) * twipsPerPixel) {
+    reportSoon();
+  }
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange) {
+    reportSoon();
+  } else if (event->type() == QEvent::ActivationChange) {
+    focusKeeper_->check();
+  }
+  QWidget::changeEvent(event);
+}
+
+void MainWindow::showEvent(QShowEvent* /*event*/) {
+  reportSoon();
+  focusKeeper_->check();
 }
 
 }  // namespace vantrel

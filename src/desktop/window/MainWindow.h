@@ -1,37 +1,62 @@
-// The main window on the screen: it shows a frmMain and forwards what the user does.
+// The main window on the screen: it shows a frmMain and forwards what the user does. Each page is a widget of its own;
+// the window puts them on top of each other in the order that their overlaps ask for, and keeps its own size and state
+// and those of the model in step.
 #pragma once
 
 #include <QWidget>
-#include <vector>
+#include <memory>
 
 #include "core/Commands.h"
 #include "core/frmMain.h"
+#include "desktop/window/Bindings.h"
+#include "desktop/window/DetailPages.h"
 #include "query/SweepProgress.h"
-
-class QBoxLayout;
-class QLabel;
 
 namespace vantrel {
 
-class MainWindow : public QWidget {
- public:
-  // All three must outlive the window.
-  MainWindow(frmMain& model, Commands& commands, SweepProgress& progress);
+class FocusKeeper;
+class HeaderStrip;
+class ServerPage;
 
-  // The user has closed the window.
+class MainWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  // All three must outlive the window. It is on the screen when the model is visible.
+  MainWindow(frmMain& model, Commands& commands, SweepProgress& progress);
+  ~MainWindow() override;
+
+  ServerPage& serverPage() { return *serverPage_; }
+
+  // The user wants the window closed. It stays until the model is no longer visible.
   Signal<> closed;
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
-  QWidget* makeHeader();
-  QWidget* makeFooter(SweepProgress& progress);
-  void addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model);
+  void makePages(Commands& commands);
+  void takeFirstSize();
+  void bindWindow();
+  void applyState();
+  void reportSoon();
+  void reportSize();
+  QWidget* firstOfPage();
 
   frmMain& model_;
-  Commands& commands_;
-  std::vector<Connection> connections_;
+  HeaderStrip* header_;
+  ServerPage* serverPage_;
+  QWidget* backdrop_;
+  std::unique_ptr<DetailPages> details_;
+  FocusKeeper* focusKeeper_;
+  bool quitting_ = false;     // the whole program ends, so that the window no longer stays
+  bool reportWaits_ = false;  // the model has yet to be told of a size or a state
+  Bindings bindings_;
 };
 
 }  // namespace vantrel

@@ -1,27 +1,28 @@
 #include "desktop/window/ProgressLine.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/window/ElidedLabel.h"
 #include "desktop/window/Theme.h"
 
 namespace vantrel {
 namespace {
 
-constexpr int textInset = 12;
 constexpr int refreshInterval = 80;  // milliseconds
 
 }  // namespace
 
-ProgressLine::ProgressLine(SweepProgress& progress, QWidget* parent) : QWidget(parent), progress_(progress) {
+ProgressLine::ProgressLine(SweepProgress& progress, QWidget* parent)
+    : QWidget(parent), progress_(progress), message_(new ElidedLabel(this)) {
   setObjectName("progressLine");
-  setAccessibleName(tr("Progress of the sweep"));
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  message_->setObjectName("progressText");
+  message_->setAccessibleName(tr("Progress of the sweep"));
+  makeDim(*message_);
   refresh_.setSingleShot(true);
   refresh_.setInterval(refreshInterval);
   connect(&refresh_, &QTimer::timeout, this, [this] {
-    setAccessibleDescription(text());
+    message_->setText(text());
     update();
   });
   for (Field<int>* const number : {&progress.listed, &progress.asked, &progress.answered}) {
@@ -37,19 +38,13 @@ void ProgressLine::refreshSoon() {
 }
 
 QString ProgressLine::text() const {
-  const QLocale locale;
   if (progress_.listed.get() == 0) {
     return {};
   }
-  const QString asked =
-      progress_.walking.get()
-          ? tr("%1 of %2 asked").arg(locale.toString(progress_.asked.get()), locale.toString(progress_.listed.get()))
-          : tr("%1 asked").arg(locale.toString(progress_.asked.get()));
-  return asked + QStringLiteral("  \u00B7  ") + tr("%1 answered").arg(locale.toString(progress_.answered.get()));
-}
-
-QSize ProgressLine::sizeHint() const {
-  return {160, fontMetrics().height() + barHeight + 10};
+  const QString asked = progress_.walking.get()
+                            ? tr("%1/%2 asked").arg(progress_.asked.get()).arg(progress_.listed.get())
+                            : tr("%1 asked").arg(progress_.asked.get());
+  return asked + QStringLiteral(" \u00B7 ") + tr("%1 answered").arg(progress_.answered.get());
 }
 
 void ProgressLine::paintEvent(QPaintEvent* /*event*/) {
@@ -62,8 +57,6 @@ void ProgressLine::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(QRectF(0, 0, width(), barHeight), theme::track);
     painter.fillRect(QRectF(0, 0, width() * share, barHeight), theme::accent);
   }
-  painter.setPen(theme::dimText);
-  painter.drawText(rect().adjusted(textInset, barHeight, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text());
 }
 
 }  // namespace vantrel

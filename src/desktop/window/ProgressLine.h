@@ -1,5 +1,5 @@
-// The line under the server list: on its left how many addresses were asked and how many have answered, along its upper
-// edge a thin bar while the list is being walked. Its right side is free for others.
+// The line under the server list: along its upper edge a thin bar while the list is being walked, and a text that says
+// how many addresses were asked and how many have answered. What else stands in the line is up to its owner.
 #pragma once
 
 #include <QTimer>
@@ -8,9 +8,13 @@
 
 #include "query/SweepProgress.h"
 
+class QLabel;
+
 namespace vantrel {
 
 class ProgressLine : public QWidget {
+  Q_OBJECT
+
  public:
   static constexpr int barHeight = 2;  // pixels at 100 %, at the upper edge
 
@@ -19,7 +23,8 @@ class ProgressLine : public QWidget {
 
   // What the line says; empty before the first sweep.
   QString text() const;
-  QSize sizeHint() const override;
+  // Shows the text; to be put into the line's layout.
+  QLabel& message() { return *message_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -28,6 +33,7 @@ class ProgressLine : public QWidget {
   void refreshSoon();
 
   SweepProgress& progress_;
+  QLabel* message_;
   QTimer refresh_;  // numbers that change a hundred times a second are shown a few times a second
   std::vector<Connection> connections_;
 };

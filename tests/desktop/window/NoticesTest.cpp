@@ -1,74 +1,247 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
+#include <QFontMetrics>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
+#include <functional>
 
+#include "desktop/adapters/NoticeLayout.h"
 #include "desktop/adapters/QtLoop.h"
 #include "desktop/adapters/QtNotices.h"
-#include "desktop/window/ProgressLine.h"
 
 namespace vantrel {
 namespace {
 
-// The texts of the notice that is on the screen, from top to bottom; empty when there is none.
-QStringList noticeOnScreen(QWidget** window = nullptr) {
+constexpr int longTime = 60'000;  // milliseconds: such a notice ends only by what a test does
+constexpr int shortTime = 80;
+
+// The notices of this name, "popMsg" or "balloon", that are on the screen.
+QWidgetList onScreen(const char* name) {
+  QWidgetList shown;
   for (QWidget* const each : QApplication::topLevelWidgets()) {
-    if (each->objectName() == "notice" && each->isVisible()) {
-      QStringList texts;
-      for (const QLabel* const label : each->findChildren<QLabel*>()) {
-        if (label->isVisible()) {
-          texts << label->text();
-        }
-      }
-      if (window != nullptr) {
-        *window = each;
-      }
-      return texts;
+    if (each->objectName() == QLatin1String(name) && each->isVisible()) {
+      shown << each;
     }
   }
-  return {};
+  return shown;
 }
 
-TEST(Notices, a_balloon_lets_events_run_and_returns_when_the_user_clicks_it_away) {
+// What can be read on a notice, from top to bottom.
+QStringList textsOn(const QWidget* notice) {
+  QStringList texts;
+  for (const QLabel* const label : notice->findChildren<QLabel*>()) {
+    if (label->isVisible()) {
+      texts << label->text();
+    }
+  }
+  return texts;
+}
+
+QStringList popMsgTexts() {
+  const QWidgetList shown = onScreen("popMsg");
+  return shown.isEmpty() ? QStringList() : textsOn(shown.first());
+}
+
+struct NoticesTest : ::testing::Test {
+  NoticesTest() { QCursor::setPos(screen.center()); }
+
+  // Opens a balloon and inside it another one, so many times, and then does `atTheEnd`.
+  void nest(int balloons, const std::function<void()>& atTheEnd) {
+    if (balloons == 0) {
+      atTheEnd();
+      return;
+    }
+    QTimer::singleShot(0, [this, balloons, &atTheEnd] { nest(balloons - 1, atTheEnd); });
+    notices.popUpBalloon("balloon " + std::to_string(balloons), "");
+    returned << balloons;
+  }
+
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   QtLoop loop;
-  QtNotices notices(loop);
+  QtNotices notices{loop, longTime};
+  QtNotices briefNotices{loop, shortTime};
+  QList<int> returned;  // which balloons' calls did, in that order
+};
+
+TEST_F(NoticesTest, a_balloon_lets_events_run_and_returns_when_the_user_clicks_it_away) {
   QStringList seen;
-  QTimer::singleShot(20, [&] {
-    QWidget* window = nullptr;
-    seen = noticeOnScreen(&window);
-    QTest::mouseClick(window, Qt::LeftButton);
+  QTimer::singleShot(0, [&] {
+    seen = textsOn(onScreen("balloon").first());
+    QTest::mouseClick(onScreen("balloon").first(), Qt::LeftButton);
   });
   notices.popUpBalloon("<b>Sm\xF8r</b>", "");
   EXPECT_EQ(seen, (QStringList{"Vantrel CE", QString::fromUtf8("<b>Smør</b>")})) << "a text is no markup";
-  EXPECT_TRUE(noticeOnScreen().isEmpty());
+  EXPECT_TRUE(onScreen("balloon").isEmpty());
 }
 
-TEST(Notices, a_short_message_returns_at_once_and_the_next_takes_its_place) {
-  QtLoop loop;
-  QtNotices notices(loop);
-  notices.ShowPopMsg("one");
-  EXPECT_EQ(noticeOnScreen(), QStringList{"one"});
-  notices.ShowPopMsg("two");
-  EXPECT_EQ(noticeOnScreen(), QStringList{"two"});
+TEST_F(NoticesTest, a_balloon_has_a_button_that_closes_it) {
+  QTimer::singleShot(0, [] { onScreen("balloon").first()->findChild<QAbstractButton*>()->click(); });
+  notices.popUpBalloon("text", "title");
+  EXPECT_TRUE(onScreen("balloon").isEmpty());
 }
 
-TEST(ProgressLine, tells_how_many_were_asked_and_how_many_of_those_have_answered) {
-  SweepProgress progress;
-  const ProgressLine line(progress);
-  EXPECT_EQ(line.text(), "");
-  progress.listed.set(3);
-  progress.walking.set(true);
-  progress.noteQuery("192.0.2.1", 2302);
-  progress.noteQuery("192.0.2.2", 2302);
-  for (int i = 0; i < 2; ++i) {
-    progress.noteReply("192.0.2.1", 2302);
-    progress.noteReply("192.0.2.9", 2302);
+TEST_F(NoticesTest, a_balloon_that_nobody_touches_ends_by_itself) {
+  const std::uint64_t before = loop.tickCount();
+  briefNotices.popUpBalloon("text", "title");
+  EXPECT_GE(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime - 5));
+  EXPECT_TRUE(onScreen("balloon").isEmpty());
+}
+
+TEST_F(NoticesTest, balloons_inside_one_another_are_all_seen_and_return_from_the_inside_out) {
+  nest(3, [] {
+    const QWidgetList shown = onScreen("balloon");
+    ASSERT_EQ(shown.size(), 3);
+    for (const QWidget* const one : shown) {
+      for (const QWidget* const other : shown) {
+        EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()));
+      }
+    }
+    for (QWidget* const each : shown) {
+      QTest::mouseClick(each, Qt::LeftButton);
+    }
+  });
+  EXPECT_EQ(returned, (QList<int>{1, 2, 3}));
+}
+
+TEST_F(NoticesTest, a_key_held_down_stacks_no_more_than_a_few_balloons) {
+  nest(static_cast<int>(QtNotices::mostBalloons), [this] {
+    for (int i = 0; i < 100; ++i) {
+      notices.popUpBalloon("one too many", "");
+    }
+    EXPECT_EQ(onScreen("balloon").size(), static_cast<qsizetype>(QtNotices::mostBalloons));
+    QStringList texts;
+    for (QWidget* const each : onScreen("balloon")) {
+      texts << textsOn(each).last();
+      each->hide();
+    }
+    EXPECT_EQ(texts.count("one too many"), 1);
+    EXPECT_FALSE(texts.contains("balloon 1")) << "the innermost one is to show the new text";
+  });
+  EXPECT_EQ(returned.size(), static_cast<qsizetype>(QtNotices::mostBalloons));
+}
+
+TEST_F(NoticesTest, balloons_end_at_once_when_the_program_ends_and_none_begins_any_more) {
+  nest(3, [this] { loop.beginEnding(); });
+  EXPECT_EQ(returned.size(), 3);
+  notices.popUpBalloon("too late", "");
+  notices.ShowPopMsg("seen by nobody");
+  notices.waitForNotice();
+  EXPECT_TRUE(onScreen("balloon").isEmpty());
+}
+
+TEST_F(NoticesTest, a_short_message_returns_at_once_and_the_next_takes_its_place) {
+  notices.ShowPopMsg("one\r\ntwo\nthree");
+  EXPECT_EQ(popMsgTexts(), QStringList{"one\ntwo\nthree"});
+  notices.ShowPopMsg("four");
+  EXPECT_EQ(popMsgTexts(), QStringList{"four"});
+  EXPECT_EQ(onScreen("popMsg").size(), 1);
+  QTest::mouseClick(onScreen("popMsg").first(), Qt::LeftButton);
+  EXPECT_TRUE(popMsgTexts().isEmpty());
+}
+
+TEST_F(NoticesTest, a_message_leaves_the_focus_where_the_user_works) {
+  QWidget window;
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  notices.ShowPopMsg("text");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(onScreen("popMsg").first()));
+  EXPECT_TRUE(window.isActiveWindow());
+}
+
+TEST_F(NoticesTest, a_message_stays_while_the_mouse_is_on_it_and_then_has_its_whole_time) {
+  briefNotices.ShowPopMsg("one");
+  QWidget* const notice = onScreen("popMsg").first();
+  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+  QApplication::sendEvent(notice, &enter);
+  briefNotices.ShowPopMsg("two");
+  loop.wait(2 * shortTime);
+  EXPECT_EQ(popMsgTexts(), QStringList{"two"});
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(notice, &leave);
+  loop.wait(shortTime / 2);
+  EXPECT_TRUE(notice->isVisible());
+  loop.wait(shortTime);
+  EXPECT_FALSE(notice->isVisible());
+}
+
+TEST_F(NoticesTest, the_program_can_wait_until_a_message_was_seen_but_no_longer_with_a_mouse_that_holds_it) {
+  notices.waitForNotice();  // With nothing on the screen there is nothing to wait for.
+  for (const bool held : {false, true}) {
+    const std::uint64_t before = loop.tickCount();
+    briefNotices.ShowPopMsg("Vantrel CE is already running");
+    if (held) {
+      QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+      QApplication::sendEvent(onScreen("popMsg").first(), &enter);
+    }
+    briefNotices.waitForNotice();
+    EXPECT_GE(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime - 5));
+    EXPECT_LT(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime + 2000));
   }
-  EXPECT_EQ(line.text(), QString::fromUtf8("2 of 3 asked  ·  1 answered"));
-  progress.walking.set(false);
-  EXPECT_EQ(line.text(), QString::fromUtf8("2 asked  ·  1 answered"));
+}
+
+TEST_F(NoticesTest, no_text_makes_a_notice_leave_the_screen) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) {
+    bytes += static_cast<char>(byte);
+  }
+  const std::string texts[] = {
+      "",   std::string(10'000, 'W'), std::string(10'000, '\n'), std::string(10'000, ' '), std::string(10'000, '\0'),
+      bytes};
+  const QPoint corners[] = {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()};
+  for (const std::string& text : texts) {
+    notices.ShowPopMsg(text);
+    EXPECT_TRUE(screen.contains(onScreen("popMsg").first()->geometry())) << text.substr(0, 4);
+    for (const QPoint& corner : corners) {
+      QCursor::setPos(corner);
+      QTimer::singleShot(0, [&] {
+        QWidget* const balloon = onScreen("balloon").first();
+        EXPECT_TRUE(screen.contains(balloon->geometry())) << text.substr(0, 4);
+        EXPECT_FALSE(balloon->geometry().intersects(onScreen("popMsg").first()->geometry())) << text.substr(0, 4);
+        balloon->hide();
+      });
+      notices.popUpBalloon(text, text);
+    }
+  }
+}
+
+TEST(NoticeLayout, a_text_breaks_at_blanks_where_it_can_anywhere_where_it_must_and_ends_in_an_ellipsis) {
+  const QFont font;
+  const int em = QFontMetrics(font).horizontalAdvance('W');
+  const TextRoom room{em * 8 + em / 6, 3};
+  const struct {
+    const char* text;
+    QString lines;
+  } table[] = {
+      {"", ""},
+      {"WWWW WWWW", "WWWW\nWWWW"},
+      {"\n W\r\n\rW \n", "W\n\nW"},
+      {"W\tW\x01W", "W W W"},
+      {"WWWWWWWWWWWW", "WWWWWWWW\nWWWW"},
+      {"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW", QString::fromUtf8("WWWWWWWW\nWWWWWWWW\nWWWWWWW…")},
+      {"W\nW\nW\nW", QString::fromUtf8("W\nW\nW…")},
+  };
+  for (const auto& row : table) {
+    EXPECT_EQ(fittedText(QString::fromLatin1(row.text), font, room).toStdString(), row.lines.toStdString());
+  }
+}
+
+TEST(NoticeLayout, a_notice_goes_to_its_first_free_wish_else_beside_the_others_else_anywhere_on_the_screen) {
+  const QRect screen(100, 100, 400, 300);
+  const QSize size(100, 50);
+  const QList<QPoint> wishes = {{450, 120}, {120, 120}};
+  EXPECT_EQ(freePlace(size, wishes, screen, {}), QPoint(120, 120)) << "the first wish reaches over the edge";
+  const QPoint beside = freePlace(size, wishes, screen, {QRect(130, 110, 60, 60)});
+  EXPECT_TRUE(screen.contains(QRect(beside, size)));
+  EXPECT_FALSE(QRect(beside, size).intersects(QRect(130, 110, 60, 60)));
+  EXPECT_EQ(freePlace(size, wishes, screen, {screen}), QPoint(400, 120));
+  EXPECT_EQ(freePlace({900, 900}, wishes, screen, {}), screen.topLeft());
 }
 
 }  // namespace

@@ -46,7 +46,9 @@ sandbox::WorldSettings smallWorld() {
 struct WholeProgram : ::testing::Test {
   explicit WholeProgram(const sandbox::WorldSettings& settings = smallWorld()) : world(settings) {
     world.start();
-    program.window().show();
+    program.registry().SetRegValue(RegistryRoot::currentUser, parametersKey, "splash", RegistryType::text, "1");
+    program.registry().SetRegValue(RegistryRoot::currentUser, settingsKey, "InitDir", RegistryType::text, "/games");
+    program.start();
   }
   ~WholeProgram() override { program.loop().beginEnding(); }
 
@@ -78,7 +80,9 @@ struct WholeProgram : ::testing::Test {
   sandbox::SandboxWorld world;
   QTemporaryDir folder;
   Program program{{world.masterAddress(), "http://maps.example.test/", "http://example.test/"},
-                  folder.path().toStdString()};
+                  {1, 0, 0},
+                  {folder.path().toStdString(), folder.filePath("config").toStdString(),
+                   folder.filePath("prefix").toStdString()}};
   int rowsWritten = 0;
   Connection counting = program.sweep().rowAdded.connect([this](int) { ++rowsWritten; });
 };

@@ -1,0 +1,133 @@
+#include "desktop/window/SplashWindow.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "desktop/text/Cp1252.h"
+#include "desktop/window/ProgramIcon.h"
+#include "desktop/window/Theme.h"
+
+namespace vantrel {
+namespace {
+
+// In pixels at 100 %.
+constexpr QSize pictureSize(420, 240);
+constexpr QRectF iconPlace(34, 60, 88, 88);
+constexpr int textLeft = 146;
+constexpr int nameTop = 72;
+constexpr int margin = 24;
+constexpr QRect footer(0, 192, 420, 48);
+
+constexpr qreal nameSize = 18;  // points
+
+constexpr Qt::WindowFlags splashFlags =
+    Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
+
+// The dark ground with the rings of a radar that run out from the icon, and a foot to write on.
+class SplashPicture : public QWidget {
+ public:
+  explicit SplashPicture(QWidget* parent) : QWidget(parent) {
+    setObjectName("picNewSplash");
+    setFixedSize(pictureSize);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient ground(0, 0, 0, height());
+    ground.setColorAt(0, theme::panel);
+    ground.setColorAt(1, theme::field);
+    painter.fillRect(rect(), ground);
+    paintRings(painter);
+    painter.fillRect(footer, theme::field);
+    paintProgramIcon(painter, iconPlace);
+    painter.setPen(QPen(theme::edge, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawLine(QPointF(0, footer.top() + 0.5), QPointF(width(), footer.top() + 0.5));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  }
+
+ private:
+  static void paintRings(QPainter& painter) {
+    painter.setBrush(Qt::NoBrush);
+    int alpha = 70;
+    for (qreal radius = 74; alpha > 0; radius += 46, alpha -= 10) {
+      QColor ring = theme::accent;
+      ring.setAlpha(alpha);
+      painter.setPen(QPen(ring, 1));
+      painter.drawEllipse(iconPlace.center(), radius, radius);
+    }
+  }
+};
+
+QLabel* makeLabel(const char* name, QWidget* parent) {
+  auto* const label = new QLabel(parent);
+  label->setObjectName(name);
+  return label;
+}
+
+}  // namespace
+
+SplashWindow::SplashWindow(frmSplash& model) : QWidget(nullptr, splashFlags) {
+  setObjectName("frmSplash");
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  setFocusPolicy(Qt::NoFocus);
+  setFixedSize(pictureSize);
+  makePicture(model);
+  bindWindow(model);
+}
+
+void SplashWindow::makePicture(frmSplash& model) {
+  auto* const picture = new SplashPicture(this);
+  QLabel* const name = makeLabel("lblVer", picture);
+  QLabel* const version = makeLabel("lblVersion", picture);
+  QLabel* const progress = makeLabel("Label1", picture);
+  bindings_.bindLabel(*name, model.lblVer);
+  bindings_.bindLabel(*version, model.lblVersion);
+  bindings_.bindLabel(*progress, model.Label1);
+  QFont large = name->font();
+  large.setPointSizeF(nameSize);
+  large.setBold(true);
+  name->setFont(large);
+  makeDim(*version);
+  makeDim(*progress);
+  progress->setFixedHeight(footer.height());
+  auto* const column = new QVBoxLayout(picture);
+  column->setContentsMargins(textLeft, nameTop, margin, 0);
+  column->setSpacing(4);
+  column->addWidget(name);
+  column->addWidget(version);
+  column->addStretch();
+  column->addWidget(progress);
+  bindings_.bindVisible(*picture, model.picNewSplash);
+}
+
+void SplashWindow::bindWindow(frmSplash& model) {
+  const auto showTitle = [this, &model] {
+    setWindowTitle(fromCp1252(model.title.get()));
+    setAccessibleName(windowTitle());
+  };
+  showTitle();
+  bindings_.keep(model.title.changed.connect(showTitle));
+  bindings_.bindVisible(*this, model.visible);
+}
+
+void SplashWindow::showEvent(QShowEvent* event) {
+  if (const QScreen* const screen = QGuiApplication::primaryScreen(); screen != nullptr) {
+    const QRect area = screen->availableGeometry();
+    move(area.center() - rect().center());
+  }
+  QWidget::showEvent(event);
+}
+
+void SplashWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+}
+
+}  // namespace vantrel
