@@ -18,12 +18,14 @@ namespace {
 
 constexpr Color systemColor = 0x80000000;
 
-// The widget's own colour for a colour of the system.
+// The widget's own colours, also while it is disabled, for a colour of the system.
 void paint(QWidget& widget, QPalette::ColorRole role, Color color) {
   QPalette palette = widget.palette();
   if ((color & systemColor) != 0) {
-    palette.setBrush(
-        role, widget.parentWidget() == nullptr ? QPalette().brush(role) : widget.parentWidget()->palette().brush(role));
+    const QPalette own = widget.parentWidget() == nullptr ? QPalette() : widget.parentWidget()->palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      palette.setBrush(group, role, own.brush(group, role));
+    }
   } else {
     palette.setColor(role, QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF));
   }

@@ -93,7 +93,12 @@ FavesListView::FavesListView(FavoritesList& list, const char* name, const QStrin
 
 void FavesListView::showSelection() {
   followsList_ = true;
-  setCurrentIndex(items_->index(list_.selected() - 1));
+  const QModelIndex item = items_->index(list_.selected() - 1);
+  if (item.isValid()) {
+    setCurrentIndex(item);
+  } else {
+    selectionModel()->clear();
+  }
   setAccessibleDescription(items_->rowCount() == 0 ? emptyHint_ : QString());
   viewport()->update();
   followsList_ = false;

@@ -25,8 +25,8 @@ constexpr QColor litBar{255, 255, 255};
 constexpr QColor unlitBar{176, 190, 208};
 
 struct Row {
-  qreal y;
-  qreal length;
+  qreal y = 0;
+  qreal length = 0;
   QColor lamp;
   QColor bar;
 };

@@ -23,6 +23,8 @@
 namespace vantrel {
 namespace {
 
+constexpr QSize designSize(671, 553);
+
 struct NoNotices : Notices {
   void ShowPopMsg(const std::string& /*text*/) override {}
   void popUpBalloon(const std::string& /*text*/, const std::string& /*title*/) override {}
@@ -32,6 +34,7 @@ struct NoNotices : Notices {
 struct MainWindowTest : ::testing::Test {
   MainWindowTest() {
     layout.layoutPanels();
+    window.resize(designSize);
     commands.cmdMenu_Click(command::showServers);
     model.visible.set(true);
     window.activateWindow();
@@ -189,6 +192,7 @@ TEST_F(MainWindowTest, no_caption_is_cut_at_the_design_size_in_a_narrow_or_a_wid
     font.setFamilies({family});
     QApplication::setFont(font);
     MainWindow fresh(model, commands, progress);
+    fresh.resize(designSize);
     for (const int page : {+command::showServers, +command::showPlayers}) {
       commands.cmdMenu_Click(page);
       settle();
