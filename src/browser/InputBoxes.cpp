@@ -36,6 +36,9 @@ void InputBoxes::splitAddress(TextBox& address, TextBox& port) {
     if (parts.size() > 1) {
       address.text.set(parts[0]);
       port.text.set(parts[1]);
+      if (parts[1].empty()) {
+        port.typingGoesOn.fire();
+      }
     }
   }));
   connections_.push_back(address.pasting.connect([](std::string& text) { text = std::string(trimBlanks(text)); }));

@@ -175,16 +175,18 @@ void frmMain::fillLists() {
 }
 
 void frmMain::pairOptions(command::Number one, command::Number other) {
-  cmdMenu[other].value.set(1);
-  releaseWhenPressed(one, other);
-  releaseWhenPressed(other, one);
+  Button& first = cmdMenu[static_cast<std::size_t>(one)];
+  Button& second = cmdMenu[static_cast<std::size_t>(other)];
+  second.value.set(1);
+  releaseWhenPressed(first, second);
+  releaseWhenPressed(second, first);
 }
 
 // Of two options at most one is pressed.
-void frmMain::releaseWhenPressed(command::Number pressed, command::Number released) {
-  connections_.push_back(cmdMenu[pressed].value.changed.connect([this, pressed, released] {
-    if (cmdMenu[pressed].value.get() != 0) {
-      cmdMenu[released].value.set(0);
+void frmMain::releaseWhenPressed(Button& pressed, Button& released) {
+  connections_.push_back(pressed.value.changed.connect([&pressed, &released] {
+    if (pressed.value.get() != 0) {
+      released.value.set(0);
     }
   }));
 }

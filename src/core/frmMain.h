@@ -144,7 +144,7 @@ struct frmMain {
   void nameLabels();
   void fillLists();
   void pairOptions(command::Number one, command::Number other);
-  void releaseWhenPressed(command::Number pressed, command::Number released);
+  void releaseWhenPressed(Button& pressed, Button& released);
 
   std::vector<Connection> connections_;
 };

@@ -45,6 +45,7 @@ struct TextBox {
   Field<Color> foreColor{colors::systemText};
 
   Signal<KeyPress&> keyPress;    // fired by a view; a listener may wait
+  Signal<> typingGoesOn;         // fired by the logic: what the user types next belongs into this box
   Signal<std::string&> pasting;  // fired by a view with a text about to be pasted; a listener may change it, not wait
 };
 

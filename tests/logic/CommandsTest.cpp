@@ -152,6 +152,16 @@ TEST(InputBoxes, an_address_with_its_port_fills_both_boxes) {
   }
 }
 
+TEST(InputBoxes, who_types_the_colon_goes_on_in_the_box_of_the_port) {
+  World world;
+  int asked = 0;
+  const Connection asking = world.mainWindow.txtPort.typingGoesOn.connect([&asked] { ++asked; });
+  world.mainWindow.txtIP.text.set("192.0.2.1:2302");
+  EXPECT_EQ(asked, 0);
+  world.mainWindow.txtIP.text.set("192.0.2.1:");
+  EXPECT_EQ(asked, 1);
+}
+
 TEST(InputBoxes, a_key_that_does_not_belong_there_is_swallowed_with_a_balloon) {
   World world;
   const auto press = [&](TextBox& box, int code) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Text.h"
 #include "desktop/adapters/PrivateFolder.h"
 #include "platform/Failure.h"
 
@@ -9,6 +10,9 @@ namespace vantrel {
 namespace {
 
 constexpr std::size_t longestValue = 2048;  // bytes
+
+// The program's own keys are its own affair: another copy's, in a Wine prefix, are none of its business.
+constexpr const char* programsOwn = "software\\marrowind\\";
 
 const char* nameOf(RegistryRoot root) {
   switch (root) {
@@ -47,7 +51,8 @@ SettingsRegistry::SettingsRegistry(Files& files, Loop& loop, const std::string& 
 std::optional<std::string> SettingsRegistry::read(RegistryRoot root, const std::string& path,
                                                   const std::string& name) const {
   const std::optional<std::string> own = readOwn(root, path, name);
-  return own || further_ == nullptr ? own : further_->read(root, path, name);
+  const bool elsewhere = further_ != nullptr && !lowerCase(path).starts_with(programsOwn);
+  return own || !elsewhere ? own : further_->read(root, path, name);
 }
 
 std::optional<std::string> SettingsRegistry::readOwn(RegistryRoot root, const std::string& path,

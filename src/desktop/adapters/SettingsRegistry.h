@@ -1,5 +1,5 @@
 // The registry where the system has none: a file of keys and values, docs/settings.md tells the format. What the file
-// does not hold is looked up in a second registry.
+// does not hold is looked up in a second registry, unless it is a key of the program's own.
 #pragma once
 
 #include <string>

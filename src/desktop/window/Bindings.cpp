@@ -77,6 +77,11 @@ void Bindings::bindTextBox(TextField& widget, TextBox& model) {
   follow(model.toolTip, [&widget, ownToolTip](const std::string& text) {
     widget.setToolTip(text.empty() ? ownToolTip : fromCp1252(text));
   });
+  keep(model.typingGoesOn.connect([&widget] {
+    if (widget.isVisible()) {
+      widget.setFocus();
+    }
+  }));
   widget.onKey([&model](KeyPress& key) { model.keyPress.fire(key); });
   widget.onPaste([&model](std::string& text) { model.pasting.fire(text); });
   QObject::connect(&widget, &TextField::edited, &widget,

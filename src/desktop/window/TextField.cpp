@@ -18,6 +18,10 @@ int codeOf(const QKeyEvent& event) {
     case Qt::Key_Backspace:
       return keys::backspace;
     default: {
+      // Ctrl with Alt is how some keyboards type; Ctrl alone makes a command.
+      if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier) {
+        return 0;
+      }
       const QString text = event.text();
       return text.isEmpty() || !text[0].isPrint() ? 0 : static_cast<unsigned char>(toCp1252(text)[0]);
     }
