@@ -45,16 +45,17 @@ Program::Program(Site site, const Version& version, const Places& places)
   connectEnd();
 }
 
+// The program leaves its loops without asking its windows, which are gone by then.
 void Program::connectEnd() {
   connections_.push_back(window_.closed.connect([this] { startAndEnd_.close(); }));
   connections_.push_back(startAndEnd_.ended.connect([this] {
     loop_.beginEnding();
-    QApplication::quit();
+    QApplication::exit();
   }));
   connections_.push_back(startAndEnd_.secondCopy.connect([this] {
     notices_.waitForNotice();
     loop_.beginEnding();
-    QApplication::quit();
+    QApplication::exit();
   }));
 }
 

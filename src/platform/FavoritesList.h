@@ -29,6 +29,8 @@ class FavoritesList {
   // Makes item `number` the selected one and the one that `current` describes. Throws failure 9, with nothing changed,
   // when there is no such item.
   void makeCurrent(int number);
+  // Item `number`, which stays as current or selected as it was. REQUIRES: 1 <= number <= count().
+  const FavoriteItem& at(int number) const { return items_[static_cast<std::size_t>(number - 1)]; }
   // Empty texts before the first makeCurrent, and after the current item was removed.
   const FavoriteItem& current() const;
 

@@ -24,7 +24,7 @@ FavesListModel::FavesListModel(FavoritesList& list, QObject* parent)
 }
 
 void FavesListModel::noteChange() {
-  if (!reading_ && !pause_.isActive()) {
+  if (!pause_.isActive()) {
     pause_.start();
   }
 }
@@ -48,24 +48,12 @@ void FavesListModel::showChanges() {
   Q_EMIT upToDate();
 }
 
-// An item can be read while it is the current one. The one that was so before, and the selection, are restored.
-std::vector<FavesListModel::Row> FavesListModel::readRows() {
-  reading_ = true;
-  const int selected = list_.selected();
-  const FavoriteItem* const before = &list_.current();
-  int current = 0;
+std::vector<FavesListModel::Row> FavesListModel::readRows() const {
   std::vector<Row> rows;
   for (int number = 1; number <= list_.count(); ++number) {
-    list_.makeCurrent(number);
-    const FavoriteItem& item = list_.current();
-    current = &item == before ? number : current;
+    const FavoriteItem& item = list_.at(number);
     rows.push_back({shownText(item.name), shownText(item.hostname), shownText(item.gametype), !item.password.empty()});
   }
-  if (current > 0) {
-    list_.makeCurrent(current);
-  }
-  list_.select(selected);
-  reading_ = false;
   return rows;
 }
 

@@ -41,13 +41,12 @@ class FavesListModel : public QAbstractListModel {
   };
 
   void noteChange();
-  std::vector<Row> readRows();
+  std::vector<Row> readRows() const;
   void resizeTo(std::size_t count);
   static QString told(const Row& row);
 
   FavoritesList& list_;
   std::vector<Row> rows_;
-  bool reading_ = false;
   QTimer pause_;
   Connection changed_;
 };

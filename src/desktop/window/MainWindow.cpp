@@ -51,7 +51,6 @@ MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progre
       backdrop_(new QWidget(this)),
       focusKeeper_(new FocusKeeper(this, [this] { return firstOfPage(); })) {
   setObjectName("frmMain");
-  qApp->installEventFilter(this);
   backdrop_->setObjectName("backdrop");
   backdrop_->setAutoFillBackground(true);
   bindings_.bindVisible(*backdrop_, model.PicBG.visible);
@@ -137,17 +136,10 @@ QWidget* MainWindow::firstOfPage() {
   return first == nullptr || header_->isAncestorOf(first) ? header_->tabOnShow() : first;
 }
 
-// When the program quits, its windows are asked to close first, and one that stays would hold it up.
-bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-  quitting_ = quitting_ || (watched == qApp && event->type() == QEvent::Quit);
-  return false;
-}
-
+// The window goes at once; the program takes the moment that it needs behind it.
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->setAccepted(quitting_);
-  if (!quitting_) {
-    closed.fire();
-  }
+  event->accept();
+  closed.fire();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* /*event*/) {

@@ -28,11 +28,10 @@ class MainWindow : public QWidget {
 
   ServerPage& serverPage() { return *serverPage_; }
 
-  // The user wants the window closed. It stays until the model is no longer visible.
+  // The user, or the end of the desktop's session, has closed the window.
   Signal<> closed;
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -54,7 +53,6 @@ class MainWindow : public QWidget {
   QWidget* backdrop_;
   std::unique_ptr<DetailPages> details_;
   FocusKeeper* focusKeeper_;
-  bool quitting_ = false;     // the whole program ends, so that the window no longer stays
   bool reportWaits_ = false;  // the model has yet to be told of a size or a state
   Bindings bindings_;
 };

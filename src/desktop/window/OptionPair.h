@@ -17,7 +17,7 @@ class OptionPair : public QWidget {
  public:
   // The commands of the left and the right half; a letter of each caption, or 0, is its mnemonic.
   struct Half {
-    command::Number number;
+    command::Number number{};
     char mnemonic = 0;
   };
 

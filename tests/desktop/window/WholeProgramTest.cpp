@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QCheckBox>
 #include <QEventLoop>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -79,10 +81,10 @@ struct WholeProgram : ::testing::Test {
 
   sandbox::SandboxWorld world;
   QTemporaryDir folder;
-  Program program{{world.masterAddress(), "http://maps.example.test/", "http://example.test/"},
-                  {1, 0, 0},
-                  {folder.path().toStdString(), folder.filePath("config").toStdString(),
-                   folder.filePath("prefix").toStdString()}};
+  Program program{
+      {world.masterAddress(), "http://maps.example.test/", "http://example.test/"},
+      {1, 0, 0},
+      {folder.path().toStdString(), folder.filePath("config").toStdString(), folder.filePath("prefix").toStdString()}};
   int rowsWritten = 0;
   Connection counting = program.sweep().rowAdded.connect([this](int) { ++rowsWritten; });
 };
@@ -184,24 +186,6 @@ TEST_F(WholeProgram, a_second_press_in_the_middle_of_a_walk_starts_over_and_doub
   EXPECT_LE(program.model().grdServers.rowCount(), static_cast<int>(world.answeringServers()) + 20);
 }
 
-TEST_F(WholeProgram, a_window_closed_in_the_middle_of_a_walk_ends_the_program_at_once) {
-  QTimer::singleShot(0, [this] { press(); });
-  bool closed = false;
-  QTimer watch;
-  QObject::connect(&watch, &QTimer::timeout, [&] {
-    if (program.model().grdServers.rowCount() >= 5 && !closed) {
-      closed = true;
-      program.window().close();
-    }
-  });
-  watch.start(5);
-  const auto start = std::chrono::steady_clock::now();
-  program.run();
-  EXPECT_TRUE(closed);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
-  EXPECT_LT(program.progress().asked.get(), 60);
-}
-
 TEST_F(WholeProgram, a_master_server_that_misbehaves_leaves_a_program_that_works) {
   std::vector<FaultKind> faults = {FaultKind::CloseAfterAccept, FaultKind::ResetAfterAccept, FaultKind::NeverAnswer,
                                    FaultKind::GarbageGreeting,  FaultKind::NoChallenge,      FaultKind::RandomData,
@@ -220,6 +204,50 @@ TEST_F(WholeProgram, a_master_server_that_misbehaves_leaves_a_program_that_works
       [&] { return faults.empty() && program.progress().asked.get() == 60 && !program.progress().walking.get(); }));
   EXPECT_EQ(program.progress().listed.get(), 60);
   EXPECT_TRUE(program.window().isVisible());
+}
+
+TEST_F(WholeProgram, a_window_closed_in_the_middle_of_a_walk_ends_the_program_at_once) {
+  QTimer::singleShot(0, [this] { press(); });
+  bool closed = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    if (program.model().grdServers.rowCount() >= 5 && !closed) {
+      closed = true;
+      program.window().close();
+    }
+  });
+  watch.start(5);
+  const auto start = std::chrono::steady_clock::now();
+  QApplication::exec();
+  EXPECT_TRUE(closed);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+  EXPECT_LT(program.progress().asked.get(), 60);
+}
+
+TEST_F(WholeProgram, a_second_copy_says_so_and_ends_while_the_first_works_on) {
+  Program second({"127.0.0.1", "", ""}, {1, 0, 0},
+                 {folder.path().toStdString(), folder.filePath("config").toStdString(), ""});
+  const auto start = std::chrono::steady_clock::now();
+  second.run();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(6));
+  EXPECT_FALSE(second.window().isVisible());
+  EXPECT_TRUE(program.window().isVisible());
+  EXPECT_FALSE(program.loop().ending());
+}
+
+TEST_F(WholeProgram, what_was_clicked_and_added_is_on_the_disk_when_the_program_has_ended) {
+  program.model().myFaves1.add({"CTF", "", "192.0.2.1:2302", "Mine"});
+  QTest::mouseClick(program.window().findChild<QPushButton*>("cmdMenu5"), Qt::LeftButton);
+  program.window().findChild<QCheckBox*>("chkOptions3")->click();
+  QTimer::singleShot(0, [this] { program.window().close(); });
+  QApplication::exec();
+  const auto bytesOf = [this](const char* name) {
+    QFile file(folder.filePath(name));
+    file.open(QFile::ReadOnly);
+    return file.readAll();
+  };
+  EXPECT_TRUE(bytesOf("favorites.ini").contains("name=Mine\r\n"));
+  EXPECT_TRUE(bytesOf("config/registry.ini").contains("novideo=1\r\n"));
 }
 
 }  // namespace
