@@ -42,6 +42,11 @@ void InputBoxes::splitAddress(TextBox& address, TextBox& port) {
     }
   }));
   connections_.push_back(address.pasting.connect([](std::string& text) { text = std::string(trimBlanks(text)); }));
+  // Of an address with its port the box of the port takes the port.
+  connections_.push_back(port.pasting.connect([](std::string& text) {
+    const std::vector<std::string> parts = split(trimBlanks(text), ':');
+    text = parts.size() > 1 ? parts[1] : parts[0];
+  }));
 }
 
 void InputBoxes::runOnEnter(TextBox& box, command::Number number) {
@@ -56,27 +61,26 @@ void InputBoxes::runOnEnter(TextBox& box, command::Number number) {
 // A paste is no key: of what it brings, the characters that no key could type are left out, and ":" splits it.
 void InputBoxes::allowOnly(TextBox& box, const std::string& characters, const std::string& title,
                            const std::string& text) {
-  connections_.push_back(box.keyPress.connect([=, this](KeyPress& key) {
+  connections_.push_back(box.keyPress.connect([=, this, &box](KeyPress& key) {
     const bool types = key.code > 0 && key.code < 256 && key.code != keys::tab && key.code != keys::backspace;
     if (types && characters.find(static_cast<char>(key.code)) == std::string::npos) {
       key.swallow();
-      refuse(title, text);
+      refuse(box, title, text);
     }
   }));
-  connections_.push_back(box.pasting.connect([=, this](std::string& pasted) {
+  connections_.push_back(box.pasting.connect([=, this, &box](std::string& pasted) {
     const std::size_t refused = std::erase_if(
         pasted, [&](char character) { return character != ':' && characters.find(character) == std::string::npos; });
     if (refused > 0) {
-      loop_.startTimer(0, TimerKind::once, [=, this] { refuse(title, text); });
+      loop_.startTimer(0, TimerKind::once, [=, this, &box] { refuse(box, title, text); });
     }
   }));
 }
 
-void InputBoxes::refuse(const std::string& title, const std::string& text) {
-  if (!refusing_) {
-    refusing_ = true;
+void InputBoxes::refuse(const TextBox& box, const std::string& title, const std::string& text) {
+  if (refusing_.insert(&box).second) {
     notices_.popUpBalloon(text, title);
-    refusing_ = false;
+    refusing_.erase(&box);
   }
 }
 

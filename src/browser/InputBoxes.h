@@ -1,6 +1,7 @@
 // The rules of the boxes that an address, a port or a name is typed into.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,12 +20,12 @@ class InputBoxes {
   void splitAddress(TextBox& address, TextBox& port);
   void runOnEnter(TextBox& box, command::Number number);
   void allowOnly(TextBox& box, const std::string& characters, const std::string& title, const std::string& text);
-  void refuse(const std::string& title, const std::string& text);
+  void refuse(const TextBox& box, const std::string& title, const std::string& text);
 
   Commands& commands_;
   Notices& notices_;
   Loop& loop_;
-  bool refusing_ = false;  // a balloon is up: further wrong keys need no second one
+  std::set<const TextBox*> refusing_;  // a balloon of theirs is up: further wrong keys need no second one
   std::vector<Connection> connections_;
 };
 

@@ -193,6 +193,11 @@ TEST(InputBoxes, a_paste_keeps_what_could_have_been_typed_and_the_colon_that_spl
   EXPECT_TRUE(world.notices.log.empty()) << "the balloon waits for the paste to be over";
   world.loop.wait(0);
   EXPECT_EQ(world.notices.log.back(), "Invalid IP!Only 0-9 and \".\" is allowed");
+  for (TextBox* const port : {&world.mainWindow.txtPort, &world.mainWindow.txtPort2}) {
+    pasted = "192.0.2.1:2302";
+    port->pasting.fire(pasted);
+    EXPECT_EQ(pasted, "2302");
+  }
 }
 
 TEST(InputBoxes, enter_queries_the_server_or_looks_for_the_player) {

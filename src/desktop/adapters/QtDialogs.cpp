@@ -1,6 +1,7 @@
 #include "desktop/adapters/QtDialogs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -65,8 +66,8 @@ QString toolkitFilter(const std::string& filter) {
 
 std::optional<std::string> QtDialogs::askFile(const FileQuestion& question) {
   const auto path = [](const std::string& bytes) { return QFile::decodeName(QByteArray::fromStdString(bytes)); };
-  QFileDialog dialog(QApplication::activeWindow(), fromCp1252(question.title), path(question.folder),
-                     toolkitFilter(question.filter));
+  const QString folder = question.folder.empty() ? QDir::homePath() : path(question.folder);
+  QFileDialog dialog(QApplication::activeWindow(), fromCp1252(question.title), folder, toolkitFilter(question.filter));
   dialog.setObjectName("fileDialog");
   dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -58,6 +58,12 @@ void ServerGridTable::paintEvent(QPaintEvent* event) {
     }
   }
   QTableView::paintEvent(event);
+  if (hasFocus() && selected_ == 0 && cursorGroup_ == 0) {
+    // Where no row shows it, a frame shows who has the focus.
+    QPainter painter(viewport());
+    painter.setPen(gridColor(look.selectedRow));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+  }
 }
 
 void ServerGridTable::paintBackdrop(QPainter& painter) {

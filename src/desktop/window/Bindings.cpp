@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <cmath>
 
+#include "core/Text.h"
 #include "desktop/text/Cp1252.h"
 #include "desktop/window/TextField.h"
 
@@ -98,7 +99,7 @@ void Bindings::bindPath(TextField& widget, TextBox& model) {
   widget.setReadOnly(true);
   follow(model.text, [&widget](const std::string& path) {
     widget.showText(QFile::decodeName(QByteArray::fromStdString(path)));
-    widget.setCursorPosition(0);
+    widget.end(false);
   });
   follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::Text, color); });
 }
@@ -143,7 +144,7 @@ void Bindings::bindCommand(QAbstractButton& widget, frmMain& window, Commands& c
   Button& model = window.cmdMenu[static_cast<std::size_t>(number)];
   widget.setObjectName(QStringLiteral("cmdMenu%1").arg(number));
   follow(model.caption, [&widget, mnemonic](const std::string& text) {
-    widget.setText(withMnemonic(fromCp1252(text), mnemonic));
+    widget.setText(withMnemonic(fromCp1252(trimBlanks(text)), mnemonic));
     if (!text.empty()) {
       widget.setAccessibleName(fromCp1252(text).simplified());
     }

@@ -15,7 +15,7 @@ FavesPage::FavesPage(frmMain& window, Commands& commands, QWidget* parent)
   PageParts parts(bindings(), window, commands);
   QVBoxLayout* const column = leftColumn(content());
   auto* const list = new FavesListView(window.myFaves1, "myFaves1",
-                                       tr("No favorites yet.\n\nChoose a server and press Favorite at the top, or fill "
+                                       tr("No favorites yet.\n\nRight click a server in the list of servers, or fill "
                                           "in the editor and press Add."),
                                        content());
   list->setAccessibleName(tr("Favorites"));

@@ -118,8 +118,8 @@ QWidget* ServerPage::makeFooter(SweepProgress& progress) {
   bindings_.bindNumber(*count, window_.lblCount.caption);
   row->addWidget(hide);
   row->addWidget(&footer->message(), 1);
-  row->addWidget(exportList);
   row->addWidget(count);
+  row->addWidget(exportList);
   return footer;
 }
 
