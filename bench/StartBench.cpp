@@ -7,8 +7,8 @@
 #include <iostream>
 
 #include "SweepBench.h"
-#include "desktop/window/ProgramIcon.h"
-#include "desktop/window/Theme.h"
+#include "desktop/controls/ProgramIcon.h"
+#include "desktop/controls/Theme.h"
 
 namespace vantrel::bench {
 namespace {

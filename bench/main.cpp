@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "SweepBench.h"
-#include "desktop/window/Theme.h"
+#include "desktop/controls/Theme.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <utility>
 
-#include "desktop/window/HelpText.h"
+#include "desktop/pages/HelpText.h"
 
 namespace vantrel {
 

@@ -46,7 +46,7 @@ class Program {
   QtLoop& loop() { return loop_; }
   modReg& registry() { return modReg_; }
 
-  // Comes up: the splash and then the main window. It returns once the first of them is on the screen.
+  // Comes up, or finds that another copy runs. It returns with the splash or the main window on the screen, or neither.
   void start() { startAndEnd_.start(); }
   // Comes up and returns when the program has ended.
   void run();

@@ -8,8 +8,8 @@
 #include "app/Places.h"
 #include "app/Program.h"
 #include "desktop/adapters/PosixEndSignals.h"
-#include "desktop/window/ProgramIcon.h"
-#include "desktop/window/Theme.h"
+#include "desktop/controls/ProgramIcon.h"
+#include "desktop/controls/Theme.h"
 
 namespace {
 
@@ -31,7 +31,6 @@ int main(int argc, char** argv) {
     return 1;
   }
   QApplication::setApplicationName("vantrel-ce");
-  QApplication::setApplicationDisplayName("Vantrel CE");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setDesktopFileName("vantrel-ce");

@@ -1,5 +1,6 @@
 #include "browser/InputBoxes.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "core/Text.h"
@@ -7,7 +8,31 @@
 namespace vantrel {
 namespace {
 
-constexpr const char* digits = "0123456789";
+constexpr std::string_view digits = "0123456789";
+constexpr std::string_view linkStart = "halo://";
+
+// The address in a text from elsewhere: without line ends and blanks around it, and without what makes it a link.
+std::string addressIn(std::string text) {
+  std::erase_if(text, [](char character) { return static_cast<unsigned char>(character) < ' '; });
+  text = std::string(trimBlanks(text));
+  if (lowerCase(text).starts_with(linkStart)) {
+    text.erase(0, linkStart.size());
+    text.resize(std::min(text.size(), text.find('/')));
+  }
+  return text;
+}
+
+// What no key could type into the box; behind a ":", which splits the text, into the box of a port.
+std::size_t eraseRefused(std::string& text, std::string_view characters) {
+  const std::size_t colon = std::min(text.find(':'), text.size());
+  std::string head = text.substr(0, colon);
+  std::string tail = text.substr(colon);
+  const std::size_t refused =
+      std::erase_if(head, [&](char character) { return characters.find(character) == std::string_view::npos; }) +
+      std::erase_if(tail, [&](char character) { return character != ':' && digits.find(character) == digits.npos; });
+  text = head + tail;
+  return refused;
+}
 
 }  // namespace
 
@@ -26,7 +51,7 @@ InputBoxes::InputBoxes(frmMain& window, Commands& commands, Notices& notices, Lo
     }
   }));
   allowOnly(window.txtIP2, std::string(digits) + ".", "Invalid IP!", "Only 0-9 and \".\" is allowed");
-  allowOnly(window.txtPort2, digits, "Invalid key!", "Only 0-9 is allowed");
+  allowOnly(window.txtPort2, std::string(digits), "Invalid key!", "Only 0-9 is allowed");
 }
 
 // "ip:port" in the box of the address fills both boxes; what stands behind a second ":" is dropped.
@@ -41,10 +66,10 @@ void InputBoxes::splitAddress(TextBox& address, TextBox& port) {
       }
     }
   }));
-  connections_.push_back(address.pasting.connect([](std::string& text) { text = std::string(trimBlanks(text)); }));
+  connections_.push_back(address.pasting.connect([](std::string& text) { text = addressIn(text); }));
   // Of an address with its port the box of the port takes the port.
   connections_.push_back(port.pasting.connect([](std::string& text) {
-    const std::vector<std::string> parts = split(trimBlanks(text), ':');
+    const std::vector<std::string> parts = split(addressIn(text), ':');
     text = parts.size() > 1 ? parts[1] : parts[0];
   }));
 }
@@ -58,7 +83,7 @@ void InputBoxes::runOnEnter(TextBox& box, command::Number number) {
   }));
 }
 
-// A paste is no key: of what it brings, the characters that no key could type are left out, and ":" splits it.
+// A paste is no key: of what it brings, the characters that no key could type are left out.
 void InputBoxes::allowOnly(TextBox& box, const std::string& characters, const std::string& title,
                            const std::string& text) {
   connections_.push_back(box.keyPress.connect([=, this, &box](KeyPress& key) {
@@ -69,9 +94,7 @@ void InputBoxes::allowOnly(TextBox& box, const std::string& characters, const st
     }
   }));
   connections_.push_back(box.pasting.connect([=, this, &box](std::string& pasted) {
-    const std::size_t refused = std::erase_if(
-        pasted, [&](char character) { return character != ':' && characters.find(character) == std::string::npos; });
-    if (refused > 0) {
+    if (eraseRefused(pasted, characters) > 0) {
       loop_.startTimer(0, TimerKind::once, [=, this, &box] { refuse(box, title, text); });
     }
   }));

@@ -20,22 +20,24 @@ Pages::Pages(frmMain& window, Commands& commands, Notices& notices) : window_(wi
   });
   commands.add(command::showSettings, [this] {
     window_.lblText2[0].caption.set("");
-    showPage(window_.picSettings.visible);
+    showPage(window_.picSettings);
     window_.picRef.visible.set(true);
   });
   commands.add(command::showFaves, [this] {
-    showPage(window_.picFaves.visible);
+    showPage(window_.picFaves);
     window_.picFaves2.visible.set(true);
     window_.PicAbout.visible.set(true);
     window_.picRef.visible.set(true);
     window_.cmbGameType.text.set("Undefined");
   });
   commands.add(command::showTools, [this] {
-    showPage(window_.picTools.visible);
+    showPage(window_.picTools);
     window_.picRef.visible.set(true);
   });
   commands.add(command::showServers, [this] {
-    showPage(window_.grdServers.visible);
+    hidePages();
+    leaveDetail();
+    window_.grdServers.visible.set(true);
     window_.PicBG.visible.set(false);
     window_.cmbGameType.text.set("Undefined");
   });
@@ -61,39 +63,45 @@ void Pages::showTab(const std::string& someTab) {
   }
 }
 
+// Only what changes is changed, so that nothing on the screen goes and comes back.
 void Pages::showDetail(const std::string& title, ListView& list) {
   hidePages();
-  hideDetail();
+  showListOnly(&list);
   window_.lblText2[0].caption.set(title);
   window_.lblText2[0].visible.set(true);
-  list.visible.set(true);
   window_.ListView3.visible.set(true);
   window_.picScore.visible.set(true);
   window_.PicBG.visible.set(true);
 }
 
-// Every page but the server list and the detail pages.
-void Pages::showPage(Field<bool>& page) {
-  hidePages();
-  hideDetail();
+void Pages::showPage(Panel& page) {
+  hidePages(&page);
+  leaveDetail();
+  window_.grdServers.visible.set(false);
+  window_.PicBG.visible.set(true);
+  page.visible.set(true);
+}
+
+void Pages::leaveDetail() {
+  showListOnly(nullptr);
   window_.lblText2[0].visible.set(false);
   window_.ListView3.visible.set(false);
   window_.picScore.visible.set(false);
-  window_.grdServers.visible.set(false);
-  window_.PicBG.visible.set(true);
-  page.set(true);
 }
 
-void Pages::hideDetail() {
+void Pages::showListOnly(const ListView* shown) {
   for (ListView* const list : {&window_.ListView1, &window_.ListView2, &window_.ListView4, &window_.ListView5}) {
-    list->visible.set(false);
+    list->visible.set(list == shown);
   }
 }
 
-void Pages::hidePages() {
+// Every page but the server list and the detail pages.
+void Pages::hidePages(const Panel* but) {
   for (Panel* const page : {&window_.picSettings, &window_.picRef, &window_.picTools, &window_.picFaves,
                             &window_.picFaves2, &window_.PicAbout}) {
-    page->visible.set(false);
+    if (page != but) {
+      page->visible.set(false);
+    }
   }
 }
 

@@ -19,9 +19,10 @@ class Pages {
 
  private:
   void showDetail(const std::string& title, ListView& list);
-  void showPage(Field<bool>& page);
-  void hideDetail();
-  void hidePages();
+  void showPage(Panel& page);
+  void leaveDetail();
+  void showListOnly(const ListView* shown);
+  void hidePages(const Panel* but = nullptr);
 
   frmMain& window_;
   Commands& commands_;

@@ -18,7 +18,7 @@ class GameFolder {
   // Asks the user for the game's program and keeps the folder it is in. Nothing changes when the user cancels.
   void locate();
 
-  // "Set." or what to do, from what `txtHaloPath` holds.
+  // "Set." or what to do, from what `txtHaloPath` holds, which loses its warning colour when it is a folder.
   void showStatus();
 
  private:

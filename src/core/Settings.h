@@ -18,7 +18,7 @@ class Settings {
   // All of it must outlive this. From now on a changed control is written.
   Settings(frmMain& window, modReg& registry, Commands& commands, GameFolder& game, Notices& notices);
 
-  // Pours the settings into the controls and opens the first page: the settings while the game's folder is not known,
+  // Pours the settings into the controls and opens the first page: the settings while the game's folder is `notFound`,
   // else the servers.
   void LoadSettings();
 

@@ -32,6 +32,9 @@ StartAndEnd::StartAndEnd(const StartContext& context, LoadingSteps steps)
 }
 
 void StartAndEnd::start() {
+  if (over_) {
+    return;
+  }
   c_.splash.lblVer.caption.set("Vantrel CE " + c_.version.shortText());
   c_.splash.title.set("Zorbel's Vantrel  CE- Version " + c_.version.text());
   if (c_.settings.splash() == "1") {
@@ -49,10 +52,10 @@ void StartAndEnd::start() {
 }
 
 void StartAndEnd::showMain() {
-  if (!closing_) {
+  if (!over_) {
     load();
   }
-  if (!closing_) {
+  if (!over_) {
     window_.visible.set(true);
   }
 }
@@ -69,7 +72,7 @@ void StartAndEnd::load() {
   favoritesRead_ = openStores(c_.stores, c_.storeFiles);
   loaded_ = true;
   reportMissingGame();
-  if (!closing_ && !refuseSecondCopy()) {
+  if (!over_ && !refuseSecondCopy()) {
     runIfAny(steps_.handOverLink);
   }
 }
@@ -90,7 +93,7 @@ void StartAndEnd::reportMissingGame() {
   if (!window_.visible.get()) {
     PumpWait(c_.stores.loop, reminderDelay);
   }
-  if (closing_) {
+  if (over_) {
     return;
   }
   c_.stores.notices.ShowPopMsg("Please locate the Halo CE executable.");
@@ -101,21 +104,24 @@ bool StartAndEnd::refuseSecondCopy() {
   if (c_.lock.acquire()) {
     return false;
   }
-  closing_ = true;
+  over_ = true;
   c_.stores.notices.ShowPopMsg("Vantrel CE is already running");
   secondCopy.fire();
   return true;
 }
 
-// Favorites that could not be read are not replaced by a list that is empty for that reason.
+// Favorites that could not be read are not replaced by a list that is empty for that reason, nor those of a first copy
+// by a second one's. A rewrite that is under way already goes on behind this one and is complete when the loop has
+// ended.
 void StartAndEnd::close() {
-  if (closing_) {
+  if (over_) {
     return;
   }
-  closing_ = true;
+  over_ = true;
   unloadAll();
   window_.visible.set(false);
-  if (loaded_ && (favoritesRead_ || window_.myFaves1.count() > 0)) {
+  const bool ours = loaded_ && c_.lock.acquire();
+  if (ours && (favoritesRead_ || window_.myFaves1.count() > 0)) {
     stopSilently([this] { c_.rewrites.saveFaves(c_.stores.folder.path("\\favorites.ini")); });
   }
   unloadAll();
@@ -124,7 +130,8 @@ void StartAndEnd::close() {
 
 void StartAndEnd::unloadAll() {
   for (std::size_t i = 0; i < unloads_.size(); ++i) {
-    stopSilently(unloads_[i]);
+    const std::function<void()> unload = unloads_[i];  // which may add another
+    stopSilently(unload);
   }
 }
 

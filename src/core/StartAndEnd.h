@@ -38,6 +38,7 @@ class StartAndEnd {
   StartAndEnd(const StartContext& context, LoadingSteps steps);
 
   // Shows the splash, and the main window when the splash is over; the main window at once when no splash is wanted.
+  // Nothing behind a close.
   void start();
 
   // Ends the program, in whatever state it is: side windows first, then the main window with its favorites written,
@@ -46,9 +47,6 @@ class StartAndEnd {
 
   // Adds what takes a side window off the screen when the program ends. It may be called again.
   void addWindow(std::function<void()> unload) { unloads_.push_back(std::move(unload)); }
-
-  // The main window is loaded, and all of it works.
-  bool isLoaded() const { return loaded_; }
 
   Signal<> ended;       // the program has nothing more to do
   Signal<> secondCopy;  // another copy runs: this one has to end, and has told the user why
@@ -67,7 +65,7 @@ class StartAndEnd {
   std::vector<std::function<void()>> unloads_;
   bool loaded_ = false;
   bool favoritesRead_ = false;
-  bool closing_ = false;
+  bool over_ = false;  // the end has begun, or another copy was found
   Connection splashOver_;
 };
 

@@ -143,7 +143,7 @@ void frmMain::nameButtons() {
   for (const int number : unusedButtons) {
     cmdMenu[static_cast<std::size_t>(number)].visible.set(false);
   }
-  for (const int number : {17, +command::startupHeading, +command::downloadMap, +command::clearFaveEditor}) {
+  for (const int number : {17, +command::startupHeading}) {
     cmdMenu[static_cast<std::size_t>(number)].enabled.set(false);
   }
   cmdMenu[command::explainBuddies].visible.set(false);

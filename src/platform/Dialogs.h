@@ -7,8 +7,10 @@
 
 namespace vantrel {
 
+enum class FilePurpose { read, write };
+
 struct FileQuestion {
-  bool save = false;        // asks for a file to write rather than one to read
+  FilePurpose purpose = FilePurpose::read;
   std::string title;        // empty for the platform's own
   std::string filter;       // "name|pattern|name|pattern"; patterns of one entry are parted by ";"
   std::string fileName;     // what stands in the dialog at first; empty for nothing

@@ -14,21 +14,21 @@ DetailView::DetailView(frmMain& window, Commands& commands, const Version& versi
 }
 
 void DetailView::ClearDetail() {
-  emptyLists();
+  clearListsAndName();
   window_.title.set("Zorbel's Vantrel - Version " + version_.text());
 }
 
 void DetailView::ResetDetail() {
   window_.txtPing.foreColor.set(colors::green);
   window_.txtPing.text.set("");
-  emptyLists();
+  clearListsAndName();
   for (const std::size_t number : {4u, 6u, 7u, 8u, 9u, 10u}) {
     window_.lblText[number].caption.set("[...]");
   }
   window_.title.set("Zorbel's Vantrel CE - Version " + version_.text());
 }
 
-void DetailView::emptyLists() {
+void DetailView::clearListsAndName() {
   for (ListView* const list :
        {&window_.ListView1, &window_.ListView2, &window_.ListView3, &window_.ListView4, &window_.ListView5}) {
     list->clear();

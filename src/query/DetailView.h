@@ -19,7 +19,7 @@ class DetailView {
   void ResetDetail();
 
  private:
-  void emptyLists();
+  void clearListsAndName();
 
   frmMain& window_;
   Version version_;

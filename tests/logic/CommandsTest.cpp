@@ -137,6 +137,40 @@ TEST(Commands, a_connection_that_was_reset_releases_auto_join_and_empties_the_vi
   EXPECT_EQ(world.mainWindow.title.get(), "Zorbel's Vantrel CE - Version 1.2.3");
 }
 
+TEST(Commands, the_server_is_forgotten_with_all_that_was_shown_of_it) {
+  World world;
+  frmMain& window = world.mainWindow;
+  for (const std::size_t label : {4u, 6u, 7u, 8u, 9u, 10u}) {
+    window.lblText[label].caption.set("shown");
+  }
+  window.txtIP.text.set("192.0.2.1:2302");
+  window.txtPing.text.set("50 ms");
+  world.commands.clickIt(11);
+  EXPECT_EQ(window.txtIP.text.get() + window.txtPort.text.get() + window.txtPing.text.get(), "");
+  EXPECT_EQ(window.txtPing.foreColor.get(), colors::green);
+  EXPECT_FALSE(window.cmdMenu[18].enabled.get());
+  for (const std::size_t label : {4u, 6u, 7u, 8u, 9u, 10u}) {
+    EXPECT_EQ(window.lblText[label].caption.get(), "[...]") << label;
+  }
+  world.detail.ClearDetail();
+  EXPECT_EQ(window.title.get(), "Zorbel's Vantrel - Version 1.2.3");
+  world.commands.clickIt(42);
+  EXPECT_EQ(
+      world.notices.log.back(),
+      "Right click player names to add them to your\r\nto your buddy list. Vantrel CE can then find them online.");
+}
+
+TEST(Pages, a_page_that_is_on_show_stays_there_without_a_flicker) {
+  World world;
+  std::string seenToChange;
+  const Connection grid = world.mainWindow.grdServers.visible.changed.connect([&] { seenToChange += "grid "; });
+  const Connection list = world.mainWindow.ListView2.visible.changed.connect([&] { seenToChange += "list "; });
+  for (const int page : {9, 9, 2, 2}) {
+    world.commands.clickIt(page);
+  }
+  EXPECT_EQ(seenToChange, "grid list grid ");
+}
+
 TEST(InputBoxes, an_address_with_its_port_fills_both_boxes) {
   World world;
   frmMain& window = world.mainWindow;
@@ -187,14 +221,18 @@ TEST(InputBoxes, a_paste_keeps_what_could_have_been_typed_and_the_colon_that_spl
   std::string pasted = " 192.0.2.1:2302\r\n";
   world.mainWindow.txtIP2.pasting.fire(pasted);
   EXPECT_EQ(pasted, "192.0.2.1:2302");
-  pasted = "halo://192.0.2.1";
+  pasted = "halo://192.0.2.1:2302/join";
   world.mainWindow.txtIP2.pasting.fire(pasted);
-  EXPECT_EQ(pasted, ":192.0.2.1");
+  EXPECT_EQ(pasted, "192.0.2.1:2302");
+  EXPECT_TRUE(world.notices.log.empty());
+  pasted = "x192.0.2.1:23.02";
+  world.mainWindow.txtIP2.pasting.fire(pasted);
+  EXPECT_EQ(pasted, "192.0.2.1:2302");
   EXPECT_TRUE(world.notices.log.empty()) << "the balloon waits for the paste to be over";
   world.loop.wait(0);
   EXPECT_EQ(world.notices.log.back(), "Invalid IP!Only 0-9 and \".\" is allowed");
   for (TextBox* const port : {&world.mainWindow.txtPort, &world.mainWindow.txtPort2}) {
-    pasted = "192.0.2.1:2302";
+    pasted = "192.0.2.1:2302\r\n";
     port->pasting.fire(pasted);
     EXPECT_EQ(pasted, "2302");
   }

@@ -69,8 +69,8 @@ std::optional<std::string> QtDialogs::askFile(const FileQuestion& question) {
   const QString folder = question.folder.empty() ? QDir::homePath() : path(question.folder);
   QFileDialog dialog(QApplication::activeWindow(), fromCp1252(question.title), folder, toolkitFilter(question.filter));
   dialog.setObjectName("fileDialog");
-  dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setAcceptMode(question.purpose == FilePurpose::write ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(question.purpose == FilePurpose::write ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   const QString suffix = fromCp1252(question.defaultType).section('.', -1);
   dialog.setDefaultSuffix(suffix.contains('*') ? QString() : suffix);

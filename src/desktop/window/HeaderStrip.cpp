@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "desktop/controls/PlainText.h"
+#include "desktop/controls/TextField.h"
+#include "desktop/controls/Theme.h"
 #include "desktop/grid/ServerGridIcons.h"
-#include "desktop/window/PlainText.h"
-#include "desktop/window/TextField.h"
-#include "desktop/window/Theme.h"
 
 namespace vantrel {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "core/Commands.h"
 #include "core/frmMain.h"
-#include "desktop/window/Bindings.h"
+#include "desktop/controls/Bindings.h"
 #include "desktop/window/PageTab.h"
 
 class QBoxLayout;

@@ -5,17 +5,17 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/pages/AboutPage.h"
+#include "desktop/pages/FaveEditor.h"
+#include "desktop/pages/FavesPage.h"
+#include "desktop/pages/HelpPanel.h"
+#include "desktop/pages/PagePanel.h"
+#include "desktop/pages/ServerPage.h"
+#include "desktop/pages/SettingsPage.h"
+#include "desktop/pages/ToolsPage.h"
 #include "desktop/text/Cp1252.h"
-#include "desktop/window/AboutPage.h"
-#include "desktop/window/FaveEditor.h"
-#include "desktop/window/FavesPage.h"
 #include "desktop/window/FocusKeeper.h"
 #include "desktop/window/HeaderStrip.h"
-#include "desktop/window/HelpPanel.h"
-#include "desktop/window/PagePanel.h"
-#include "desktop/window/ServerPage.h"
-#include "desktop/window/SettingsPage.h"
-#include "desktop/window/ToolsPage.h"
 
 namespace vantrel {
 namespace {
@@ -89,6 +89,12 @@ void MainWindow::takeFirstSize() {
   setMinimumSize(smallestSize.boundedTo(free.size()));
   resize(designSize.boundedTo(free.size()));
   move(free.center() - rect().center());
+  noteOuterSize();
+}
+
+void MainWindow::noteOuterSize() {
+  model_.Width = static_cast<float>(frameGeometry().width()) * twipsPerPixel;
+  model_.Height = static_cast<float>(frameGeometry().height()) * twipsPerPixel;
 }
 
 void MainWindow::bindWindow() {
@@ -123,8 +129,7 @@ void MainWindow::reportSize() {
   const WindowState state = stateOf(*this);
   model_.windowState.set(state);
   if (state != WindowState::minimized) {
-    model_.Width = static_cast<float>(frameGeometry().width()) * twipsPerPixel;
-    model_.Height = static_cast<float>(frameGeometry().height()) * twipsPerPixel;
+    noteOuterSize();
   }
   model_.resized.fire();
 }

@@ -8,8 +8,8 @@
 
 #include "core/Commands.h"
 #include "core/frmMain.h"
-#include "desktop/window/Bindings.h"
-#include "desktop/window/DetailPages.h"
+#include "desktop/controls/Bindings.h"
+#include "desktop/pages/DetailPages.h"
 #include "query/SweepProgress.h"
 
 namespace vantrel {
@@ -41,6 +41,7 @@ class MainWindow : public QWidget {
  private:
   void makePages(Commands& commands);
   void takeFirstSize();
+  void noteOuterSize();
   void bindWindow();
   void applyState();
   void reportSoon();

@@ -3,7 +3,7 @@
 #include <QStyleOption>
 #include <QStylePainter>
 
-#include "desktop/window/Theme.h"
+#include "desktop/controls/Theme.h"
 
 namespace vantrel {
 namespace {

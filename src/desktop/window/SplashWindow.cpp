@@ -8,9 +8,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "desktop/controls/ProgramIcon.h"
+#include "desktop/controls/Theme.h"
 #include "desktop/text/Cp1252.h"
-#include "desktop/window/ProgramIcon.h"
-#include "desktop/window/Theme.h"
 
 namespace vantrel {
 namespace {

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "core/frmSplash.h"
-#include "desktop/window/Bindings.h"
+#include "desktop/controls/Bindings.h"
 
 namespace vantrel {
 

@@ -91,7 +91,7 @@ TEST_F(DialogsTest, the_end_of_the_program_closes_all_dialogs_also_those_over_ot
     });
     EXPECT_EQ(dialogs.askText("", "Over the first", "preset"), std::nullopt);
   });
-  EXPECT_EQ(dialogs.askFile({.save = true,
+  EXPECT_EQ(dialogs.askFile({.purpose = FilePurpose::write,
                              .title = "",
                              .filter = "All|*.*",
                              .fileName = "x.html",

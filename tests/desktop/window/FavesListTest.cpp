@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "desktop/window/FavesListView.h"
+#include "desktop/controls/FavesListView.h"
 
 namespace vantrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/window/ListTable.h"
+#include "desktop/controls/ListTable.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <QImage>
 #include <QTest>
 
-#include "desktop/window/IndicatorPicture.h"
+#include "desktop/controls/IndicatorPicture.h"
 
 namespace vantrel {
 namespace {

@@ -19,14 +19,14 @@
 #include "appearance/WindowLayout.h"
 #include "browser/Pages.h"
 #include "desktop/adapters/QtLoop.h"
-#include "desktop/window/FaveEditor.h"
-#include "desktop/window/FavesPage.h"
-#include "desktop/window/HelpPanel.h"
-#include "desktop/window/HelpText.h"
-#include "desktop/window/SettingsPage.h"
-#include "desktop/window/TextField.h"
-#include "desktop/window/Theme.h"
-#include "desktop/window/ToolsPage.h"
+#include "desktop/controls/TextField.h"
+#include "desktop/controls/Theme.h"
+#include "desktop/pages/FaveEditor.h"
+#include "desktop/pages/FavesPage.h"
+#include "desktop/pages/HelpPanel.h"
+#include "desktop/pages/HelpText.h"
+#include "desktop/pages/SettingsPage.h"
+#include "desktop/pages/ToolsPage.h"
 
 namespace vantrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/window/ProgressLine.h"
+#include "desktop/pages/ProgressLine.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include <QTest>
 
 #include "desktop/adapters/QtLoop.h"
-#include "desktop/window/ProgramIcon.h"
+#include "desktop/controls/ProgramIcon.h"
 
 namespace vantrel {
 namespace {

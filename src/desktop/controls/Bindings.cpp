@@ -1,0 +1,190 @@
+#include "desktop/controls/Bindings.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPalette>
+#include <QPointer>
+#include <QTimer>
+#include <cmath>
+
+#include "core/Text.h"
+#include "desktop/controls/TextField.h"
+#include "desktop/text/Cp1252.h"
+
+namespace vantrel {
+namespace {
+
+constexpr Color systemColor = 0x80000000;
+
+// The widget's own colours, also while it is disabled, for a colour of the system.
+void paint(QWidget& widget, QPalette::ColorRole role, Color color) {
+  QPalette palette = widget.palette();
+  if ((color & systemColor) != 0) {
+    const QPalette own = widget.parentWidget() == nullptr ? QPalette() : widget.parentWidget()->palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      palette.setBrush(group, role, own.brush(group, role));
+    }
+  } else {
+    palette.setColor(role, QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF));
+  }
+  widget.setPalette(palette);
+}
+
+int pixels(float twips) {
+  return static_cast<int>(std::lround(twips / twipsPerPixel));
+}
+
+}  // namespace
+
+void Bindings::bindLabel(QLabel& widget, Label& model, char mnemonic) {
+  widget.setTextFormat(Qt::PlainText);
+  follow(model.caption, [&widget, mnemonic](const std::string& text) {
+    const QString caption = fromCp1252(text);
+    widget.setText(mnemonic == 0 ? caption : withMnemonic(caption, mnemonic));
+  });
+  bindVisible(widget, model.visible);
+  follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::WindowText, color); });
+  follow(model.backColor, [&widget](Color color) {
+    paint(widget, QPalette::Window, color);
+    widget.setAutoFillBackground((color & systemColor) == 0);
+  });
+}
+
+// The first change is shown at once, those that follow it closely are shown together.
+void Bindings::bindNumber(QLabel& widget, Field<std::string>& text) {
+  auto* const pause = new QTimer(&widget);
+  pause->setSingleShot(true);
+  pause->setInterval(60);
+  widget.setTextFormat(Qt::PlainText);
+  const auto show = [&widget, &text] { widget.setText(fromCp1252(text.get())); };
+  QObject::connect(pause, &QTimer::timeout, &widget, show);
+  show();
+  keep(text.changed.connect([pause, show] {
+    if (!pause->isActive()) {
+      show();
+      pause->start();
+    }
+  }));
+}
+
+void Bindings::bindTextBox(TextField& widget, TextBox& model) {
+  follow(model.text, [&widget](const std::string& text) { widget.showText(fromCp1252(text)); });
+  follow(model.enabled, [&widget](bool enabled) { widget.setEnabled(enabled); });
+  follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::Text, color); });
+  const QString ownToolTip = widget.toolTip();
+  follow(model.toolTip, [&widget, ownToolTip](const std::string& text) {
+    widget.setToolTip(text.empty() ? ownToolTip : fromCp1252(text));
+  });
+  keep(model.typingGoesOn.connect([&widget] {
+    if (widget.isVisible()) {
+      widget.setFocus();
+    }
+  }));
+  widget.onKey([&model](KeyPress& key) { model.keyPress.fire(key); });
+  widget.onPaste([&model](std::string& text) { model.pasting.fire(text); });
+  QObject::connect(&widget, &TextField::edited, &widget,
+                   [&model](const QString& text) { model.text.set(toCp1252(text)); });
+}
+
+void Bindings::bindShownText(QLabel& widget, TextBox& model) {
+  widget.setTextFormat(Qt::PlainText);
+  follow(model.text, [&widget](const std::string& text) { widget.setText(fromCp1252(text)); });
+  follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::WindowText, color); });
+}
+
+void Bindings::bindPath(TextField& widget, TextBox& model) {
+  widget.setReadOnly(true);
+  follow(model.text, [&widget](const std::string& path) {
+    widget.showText(QFile::decodeName(QByteArray::fromStdString(path)));
+    widget.end(false);
+  });
+  follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::Text, color); });
+}
+
+void Bindings::bindCheckBox(QCheckBox& widget, CheckBox& model) {
+  follow(model.caption, [&widget](const std::string& text) { widget.setText(withMnemonic(fromCp1252(text), 0)); });
+  follow(model.value, [&widget](int value) {
+    widget.setCheckState(value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked);
+  });
+  QObject::connect(&widget, &QCheckBox::clicked, &widget, [&model](bool checked) { model.value.set(checked ? 1 : 0); });
+}
+
+void Bindings::bindComboBox(QComboBox& widget, ComboBox& model) {
+  const auto showText = [&widget, &model] {
+    const QString text = fromCp1252(model.text.get());
+    if (widget.isEditable()) {
+      if (widget.currentText() != text) {
+        widget.setEditText(text);
+      }
+    } else {
+      widget.setCurrentIndex(widget.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+      widget.setPlaceholderText(text);
+    }
+  };
+  follow(model.items, [&widget, showText](const std::vector<std::string>& items) {
+    widget.clear();
+    for (const std::string& item : items) {
+      widget.addItem(fromCp1252(item));
+    }
+    showText();
+  });
+  follow(model.text, [showText](const std::string& /*text*/) { showText(); });
+  QObject::connect(&widget, &QComboBox::textActivated, &widget,
+                   [&model](const QString& text) { model.text.set(toCp1252(text)); });
+  if (widget.isEditable()) {
+    QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &widget,
+                     [&model](const QString& text) { model.text.set(toCp1252(text)); });
+  }
+}
+
+void Bindings::bindCommand(QAbstractButton& widget, frmMain& window, Commands& commands, int number, char mnemonic) {
+  Button& model = window.cmdMenu[static_cast<std::size_t>(number)];
+  widget.setObjectName(QStringLiteral("cmdMenu%1").arg(number));
+  follow(model.caption, [&widget, mnemonic](const std::string& text) {
+    widget.setText(withMnemonic(fromCp1252(trimBlanks(text)), mnemonic));
+    if (!text.empty()) {
+      widget.setAccessibleName(fromCp1252(text).simplified());
+    }
+  });
+  follow(model.enabled, [&widget](bool enabled) { widget.setEnabled(enabled); });
+  bindVisible(widget, model.visible);
+  follow(model.value, [&widget](int value) { widget.setChecked(value != 0); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&widget, &model, &commands, number] {
+    if (widget.isCheckable()) {
+      model.value.set(1);
+      widget.setChecked(true);
+    }
+    commands.cmdMenu_Click(number);
+  });
+}
+
+void Bindings::bindVisible(QWidget& widget, Field<bool>& visible) {
+  follow(visible, [&widget](bool shown) { widget.setVisible(shown); });
+}
+
+void Bindings::bindUncovered(QWidget& widget, Field<bool>& visible, Field<bool>& cover) {
+  const auto show = [&widget, &visible, &cover](bool /*changed*/) { widget.setVisible(visible.get() && !cover.get()); };
+  follow(visible, show);
+  follow(cover, show);
+}
+
+void Bindings::bindPlace(QWidget& widget, Field<Placement>& place) {
+  follow(place, [&widget](const Placement& twips) {
+    widget.setGeometry(pixels(twips.Left), pixels(twips.Top), pixels(twips.Width), pixels(twips.Height));
+  });
+}
+
+QString withMnemonic(const QString& caption, char mnemonic) {
+  QString result = caption;
+  const qsizetype at = mnemonic == 0 ? -1 : caption.indexOf(QLatin1Char(mnemonic), 0, Qt::CaseInsensitive);
+  result.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  if (at >= 0) {
+    result.insert(at + caption.left(at).count(QLatin1Char('&')), QLatin1Char('&'));
+  }
+  return result;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,53 @@
+#include "desktop/pages/DetailPages.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "desktop/controls/Theme.h"
+
+namespace vantrel {
+namespace {
+
+// Where what has no place of its own in the model lies, in pixels at 100 %: over and under the lists.
+constexpr QRect titlePlace(40, 114, 340, 24);
+constexpr QPoint buddyPlace(40, 468);
+
+}  // namespace
+
+DetailPages::DetailPages(frmMain& window, Commands& commands, QWidget* parent) : window_(window) {
+  makeTitle(parent);
+  addList(window.ListView4, "ListView4", QObject::tr("Current game"), parent);
+  addList(window.ListView2, "ListView2", QObject::tr("Players"), parent);
+  addList(window.ListView1, "ListView1", QObject::tr("Miscellaneous server information"), parent);
+  addList(window.ListView5, "ListView5", QObject::tr("Vehicles"), parent);
+  QWidget* const buddies = makeBuddyButton(commands, parent);
+  new SummaryPanel(window, commands, parent);
+  ListTable* const teams = addList(window.ListView3, "ListView3", QObject::tr("Teams"), parent);
+  QWidget::setTabOrder(buddies, teams);
+}
+
+// The about page lies over the lists, which stay on beneath it.
+ListTable* DetailPages::addList(ListView& list, const char* name, const QString& accessibleName, QWidget* parent) {
+  auto* const table = new ListTable(list, name, accessibleName, parent);
+  bindings_.bindUncovered(*table, list.visible, window_.PicAbout.visible);
+  return table;
+}
+
+void DetailPages::makeTitle(QWidget* parent) {
+  auto* const title = new QLabel(parent);
+  title->setObjectName("lblText2_0");
+  title->setGeometry(titlePlace);
+  makeHeading(*title);
+  bindings_.bindLabel(*title, window_.lblText2[0]);
+  bindings_.bindUncovered(*title, window_.lblText2[0].visible, window_.PicAbout.visible);
+}
+
+QWidget* DetailPages::makeBuddyButton(Commands& commands, QWidget* parent) {
+  auto* const button = new QPushButton(parent);
+  bindings_.bindCommand(*button, window_, commands, command::explainBuddies, 'D');
+  button->move(buddyPlace);
+  button->resize(button->sizeHint());
+  return button;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,39 @@
+// The page of the server list: a toolbar that fills the list and searches it, the list, and a line of what became of
+// it.
+#pragma once
+
+#include <QWidget>
+
+#include "core/Commands.h"
+#include "core/frmMain.h"
+#include "desktop/controls/Bindings.h"
+#include "query/SweepProgress.h"
+
+class QBoxLayout;
+
+namespace vantrel {
+
+class ServerGridView;
+
+class ServerPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  // All three must outlive the page.
+  ServerPage(frmMain& window, Commands& commands, SweepProgress& progress, QWidget* parent);
+
+  ServerGridView& grid() { return *grid_; }
+
+ private:
+  QWidget* makeToolbar();
+  void addSearch(QBoxLayout& row);
+  void addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model);
+  QWidget* makeFooter(SweepProgress& progress);
+
+  frmMain& window_;
+  Commands& commands_;
+  ServerGridView* grid_;
+  Bindings bindings_;
+};
+
+}  // namespace vantrel

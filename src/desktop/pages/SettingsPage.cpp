@@ -1,0 +1,236 @@
+#include "desktop/pages/SettingsPage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/controls/IndicatorPicture.h"
+#include "desktop/controls/OptionPair.h"
+#include "desktop/controls/PlainText.h"
+#include "desktop/controls/TextField.h"
+#include "desktop/controls/Theme.h"
+#include "desktop/pages/PageCard.h"
+
+namespace vantrel {
+namespace {
+
+// The columns of a card: labels, boxes, and what stands behind a box.
+constexpr int labels = 0;
+constexpr int boxes = 1;
+constexpr int behind = 2;
+constexpr int all = 3;
+
+constexpr int cardMargin = 6;  // above and below what stands in a card
+constexpr int rowGap = 4;
+constexpr qreal headingSize = 10;        // points
+constexpr QColor deepField{16, 17, 20};  // behind a text that may be red
+
+// A button that is never to be pressed and heads a card: it looks like the other headings.
+class HeadingButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+  QSize sizeHint() const override { return fontMetrics().size(Qt::TextSingleLine, text()); }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+  }
+};
+
+QWidget* makeHeadingButton(Bindings& bindings, frmMain& window, Commands& commands, QWidget* parent) {
+  auto* const heading = new HeadingButton(parent);
+  QFont font = heading->font();
+  font.setPointSizeF(headingSize);
+  font.setBold(true);
+  heading->setFont(font);
+  heading->setFocusPolicy(Qt::NoFocus);
+  bindings.bindCommand(*heading, window, commands, command::startupHeading);
+  return heading;
+}
+
+}  // namespace
+
+SettingsPage::SettingsPage(frmMain& window, Commands& commands, QWidget* parent)
+    : PagePanel(window.picSettings, "picSettings", parent),
+      window_(window),
+      commands_(commands),
+      parts_(bindings(), window, commands) {
+  setAccessibleName(tr("Settings"));
+  auto* const cards = new QVBoxLayout(makeScrolled());
+  cards->setContentsMargins(page::edge, page::top, page::half, page::top);
+  cards->setSpacing(page::gap);
+  addGame(*cards);
+  addStartup(*cards);
+  addQueries(*cards);
+  addAnnouncements(*cards);
+  addAtStart(*cards);
+  addChat(*cards);
+  cards->addStretch(1);
+  lineUp();
+}
+
+// A window that is too low for all of it scrolls it.
+QWidget* SettingsPage::makeScrolled() {
+  auto* const area = new QScrollArea(content());
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setWidgetResizable(true);
+  area->viewport()->setAutoFillBackground(false);
+  auto* const filled = new QVBoxLayout(content());
+  filled->setContentsMargins(0, 0, 0, 0);
+  filled->addWidget(area);
+  scrolled_ = new QWidget(area->viewport());
+  area->setWidget(scrolled_);
+  scrolled_->setAutoFillBackground(false);
+  return scrolled_;
+}
+
+QGridLayout* SettingsPage::addCard(QBoxLayout& cards, QWidget* heading) {
+  auto* const card = new PageCard(scrolled_);
+  auto* const grid = new QGridLayout(card);
+  grid->setContentsMargins(page::padding, cardMargin, page::padding, cardMargin);
+  grid->setHorizontalSpacing(page::gap);
+  grid->setVerticalSpacing(rowGap);
+  grid->setColumnStretch(boxes, 1);
+  grid->addWidget(heading, 0, labels, 1, boxes + 1);
+  cards.addWidget(card);
+  grids_.push_back(grid);
+  return grid;
+}
+
+void SettingsPage::addGame(QBoxLayout& cards) {
+  QGridLayout* const grid = addCard(cards, parts_.heading(2, scrolled_));
+  auto* const path = new TextField(scrolled_);
+  path->setObjectName("txtHaloPath");
+  QPalette deep = path->palette();
+  deep.setColor(QPalette::Base, deepField);
+  path->setPalette(deep);
+  bindings().bindPath(*path, window_.txtHaloPath);
+  const auto showWhole = [path](const QString& text) { path->setToolTip(plainToolTip(text)); };
+  showWhole(path->text());
+  connect(path, &QLineEdit::textChanged, path, showWhole);
+  grid->addLayout(makeGameStatus(), 0, boxes, 1, all - boxes, Qt::AlignRight);
+  grid->addWidget(label(15, path, 'D'), 1, labels);
+  grid->addWidget(path, 1, boxes);
+  grid->addWidget(parts_.button(command::locateGame, scrolled_, 0, tr("Asks where haloce.exe is")), 1, behind);
+}
+
+QBoxLayout* SettingsPage::makeGameStatus() {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(page::gap);
+  auto* const lamp = new IndicatorPicture(window_.picExeStatus, "picExeStatus", tr("The game's folder"), scrolled_);
+  lamp->setFocusPolicy(Qt::NoFocus);
+  auto* const status = new QLabel(scrolled_);
+  status->setObjectName("lblExeStatus");
+  bindings().bindLabel(*status, window_.lblExeStatus);
+  row->addWidget(lamp);
+  row->addWidget(status);
+  return row;
+}
+
+void SettingsPage::addStartup(QBoxLayout& cards) {
+  QGridLayout* const grid = addCard(cards, makeHeadingButton(bindings(), window_, commands_, scrolled_));
+  grid->addWidget(option(0, tr("Lets the Print Screen key save a picture of the game")), 1, labels);
+  grid->addWidget(option(1, tr("Opens the game's console to you")), 1, boxes);
+  grid->addWidget(option(2, tr("The game does not look for joysticks and gamepads")), 2, labels);
+  grid->addWidget(option(3, tr("Skips the films at the game's start")), 2, boxes);
+  QComboBox* const further = parts_.comboBox("cmbVid", window_.cmbVid, PageParts::Text::free, scrolled_,
+                                             tr("Put behind haloce.exe as it stands here"));
+  grid->addWidget(label(16, further, 'N'), 3, labels);
+  grid->addWidget(further, 3, boxes, 1, all - boxes);
+}
+
+void SettingsPage::addQueries(QBoxLayout& cards) {
+  QGridLayout* const grid = addCard(cards, parts_.heading(3, scrolled_));
+  QComboBox* const tab = parts_.comboBox("cmbShowTab", window_.cmbShowTab, PageParts::Text::ofTheList, scrolled_,
+                                         tr("The page that opens when the current server has answered"));
+  tab->setAccessibleName(tr("Show after query"));
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(page::gap);
+  row->addWidget(tab);
+  row->addWidget(label(18));
+  row->addStretch(1);
+  grid->addWidget(label(17, tab, 'W'), 1, labels);
+  grid->addLayout(row, 1, boxes, 1, all - boxes);
+  addAutoJoin(*grid);
+}
+
+void SettingsPage::addAutoJoin(QGridLayout& grid) {
+  auto* const lamp = new IndicatorPicture(window_.picJoin, "picJoin", tr("Auto join"), scrolled_);
+  lamp->setToolTip(tr("Whether a full server is asked again and again until it has a place"));
+  auto* const pair = new OptionPair(bindings(), window_, commands_, {command::autoJoinOn}, {command::autoJoinOff},
+                                    tr("Auto join"), scrolled_);
+  pair->left().setToolTip(tr("Waits for a place on a full server, then joins it"));
+  pair->right().setToolTip(tr("A full server is left alone"));
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(page::gap);
+  row->addWidget(label(20, &pair->left(), 'J'));
+  row->addWidget(lamp);
+  row->addStretch(1);
+  grid.addWidget(label(19), 2, labels);
+  grid.addLayout(row, 2, boxes, 1, all - boxes);
+  grid.addWidget(pair, 3, boxes, 1, all - boxes);
+}
+
+void SettingsPage::addAnnouncements(QBoxLayout& cards) {
+  QGridLayout* const grid = addCard(cards, parts_.heading(4, scrolled_));
+  grid->addWidget(option(5, tr("Tells the channel below about your server")), 1, labels, 1, all);
+  TextField* const channel =
+      parts_.box("mircChan", window_.mircChan, scrolled_, tr("Name of the mIRC channel that is told"));
+  grid->addWidget(label(22, channel, 'H'), 2, labels);
+  grid->addWidget(channel, 2, boxes, 1, all - boxes);
+}
+
+void SettingsPage::addAtStart(QBoxLayout& cards) {
+  QGridLayout* const grid = addCard(cards, parts_.heading(5, scrolled_));
+  grid->addWidget(
+      parts_.checkBox("chkSplash", window_.chkSplash, scrolled_, tr("The window opens at once, without a splash")), 1,
+      labels);
+  grid->addWidget(parts_.checkBox("chkOldSplash", window_.chkOldSplash, scrolled_, tr("Kept from older versions")), 1,
+                  boxes);
+}
+
+void SettingsPage::addChat(QBoxLayout& cards) {
+  auto* const row = new QHBoxLayout;
+  row->setContentsMargins(page::padding, 0, page::padding, 0);
+  row->addWidget(option(6, tr("Not there yet")));
+  row->addStretch(1);
+  cards.addLayout(row);
+}
+
+QCheckBox* SettingsPage::option(int number, const QString& toolTip) {
+  return parts_.checkBox(QStringLiteral("chkOptions%1").arg(number),
+                         window_.chkOptions[static_cast<std::size_t>(number)], scrolled_, toolTip);
+}
+
+QLabel* SettingsPage::label(int number, QWidget* buddy, char mnemonic) {
+  return parts_.label(number, scrolled_, buddy, mnemonic);
+}
+
+// The first column is as wide in every card as in the one that needs most.
+void SettingsPage::lineUp() {
+  int width = 0;
+  for (QGridLayout* const grid : grids_) {
+    for (int row = 1; row < grid->rowCount(); ++row) {
+      const QLayoutItem* const item = grid->itemAtPosition(row, labels);
+      if (item != nullptr && item != grid->itemAtPosition(row, boxes)) {
+        width = std::max(width, item->sizeHint().width());
+      }
+    }
+  }
+  for (QGridLayout* const grid : grids_) {
+    grid->setColumnMinimumWidth(labels, width);
+  }
+}
+
+}  // namespace vantrel

@@ -1,0 +1,44 @@
+// The page of the settings: a card for each group, with labels and boxes in the same two columns in all of them.
+#pragma once
+
+#include <vector>
+
+#include "desktop/pages/PagePanel.h"
+#include "desktop/pages/PageParts.h"
+
+class QBoxLayout;
+class QGridLayout;
+
+namespace vantrel {
+
+class SettingsPage : public PagePanel {
+  Q_OBJECT
+
+ public:
+  // Both must outlive the page.
+  SettingsPage(frmMain& window, Commands& commands, QWidget* parent);
+
+ private:
+  QWidget* makeScrolled();
+  // A card with its heading above two columns and one that takes what is left.
+  QGridLayout* addCard(QBoxLayout& cards, QWidget* heading);
+  void addGame(QBoxLayout& cards);
+  void addStartup(QBoxLayout& cards);
+  void addQueries(QBoxLayout& cards);
+  void addAutoJoin(QGridLayout& grid);
+  void addAnnouncements(QBoxLayout& cards);
+  void addAtStart(QBoxLayout& cards);
+  void addChat(QBoxLayout& cards);
+  QBoxLayout* makeGameStatus();
+  QCheckBox* option(int number, const QString& toolTip);
+  QLabel* label(int number, QWidget* buddy = nullptr, char mnemonic = 0);
+  void lineUp();
+
+  frmMain& window_;
+  Commands& commands_;
+  PageParts parts_;
+  QWidget* scrolled_ = nullptr;
+  std::vector<QGridLayout*> grids_;
+};
+
+}  // namespace vantrel
