@@ -19,12 +19,8 @@ std::string valueFrom(const std::string& line, const std::string& name = "EXE Pa
 
 TEST(WineRegistryFile, a_value_is_text_with_its_escapes_resolved) {
   const std::pair<std::string, std::string> lines[] = {
-      {R"("EXE Path"="C:\\Program Files (x86)\\Halo")"
-       "\n",
-       "C:\\Program Files (x86)\\Halo"},
-      {R"("exe path"="any capitals")"
-       "\r\n",
-       "any capitals"},
+      {"\"EXE Path\"=\"C:\\\\Program Files (x86)\\\\Halo\"\n", "C:\\Program Files (x86)\\Halo"},
+      {"\"exe path\"=\"any capitals\"\r\n", "any capitals"},
       {R"("EXE Path"=str(2):"%ProgramFiles%")", "%ProgramFiles%"},
       {R"("EXE Path"="a \"b\" [c]\n;=")", "a \"b\" [c]\n;="},
       {R"("EXE Path"="\xe9\x00e9 \x20acg\x4")", "\xC3\xA9\xC3\xA9 \xE2\x82\xACg\x04"},

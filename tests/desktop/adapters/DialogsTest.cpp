@@ -34,14 +34,13 @@ struct DialogsTest : testing::Test {
 };
 
 TEST_F(DialogsTest, a_question_is_yes_by_its_button_alone) {
-  const std::pair<std::function<void(QMessageBox&)>, bool> answers[] = {
-      {[](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); }, true},
-      {[](QMessageBox& box) { box.button(QMessageBox::No)->click(); }, false},
-      {[](QMessageBox& box) { box.close(); }, false},
-      {[](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }, false}};
-  for (const auto& [act, answer] : answers) {
+  const std::function<void(QMessageBox&)> ways[] = {[](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); },
+                                                    [](QMessageBox& box) { box.button(QMessageBox::No)->click(); },
+                                                    [](QMessageBox& box) { box.close(); },
+                                                    [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }};
+  for (const auto& act : ways) {
     onceUp<QMessageBox>("yesNoDialog", act);
-    EXPECT_EQ(dialogs.askYesNo("", "Delete it?"), answer);
+    EXPECT_EQ(dialogs.askYesNo("", "Delete it?"), &act == &ways[0]);
   }
 }
 
@@ -91,13 +90,7 @@ TEST_F(DialogsTest, the_end_of_the_program_closes_all_dialogs_also_those_over_ot
     });
     EXPECT_EQ(dialogs.askText("", "Over the first", "preset"), std::nullopt);
   });
-  EXPECT_EQ(dialogs.askFile({.purpose = FilePurpose::write,
-                             .title = "",
-                             .filter = "All|*.*",
-                             .fileName = "x.html",
-                             .folder = "",
-                             .defaultType = "*.html"}),
-            std::nullopt);
+  EXPECT_EQ(dialogs.askFile({FilePurpose::write, "", "All|*.*", "x.html", "", "*.html"}), std::nullopt);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 

@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
-#include <QImage>
 #include <QTest>
 
 #include "desktop/controls/IndicatorPicture.h"
@@ -48,25 +47,17 @@ TEST_F(ListTableTest, ten_thousand_rows_come_at_once_and_appear_together) {
   EXPECT_LT(clock.elapsed(), 2000);
 }
 
-TEST_F(ListTableTest, the_selected_rows_are_copied_from_top_to_bottom_with_tabs_between_the_cells) {
-  add("a", "1");
-  add("b", "2");
-  add("c", "3");
+TEST_F(ListTableTest, selected_rows_are_copied_in_their_order_with_tabs_and_one_that_comes_again_stays_selected) {
+  for (const char* const name : {"a", "b", "c"}) {
+    add(name, "1");
+  }
   table.shownRows().showChanges();
   for (const int row : {2, 0}) {
     table.selectionModel()->select(table.model()->index(row, 0),
                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
   }
   QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), "a\t1\nc\t3");
-}
-
-TEST_F(ListTableTest, a_list_that_is_filled_anew_keeps_the_selection_of_a_row_that_is_still_about_the_same) {
-  add("a", "1");
-  add("b", "2");
-  add("c", "3");
-  table.shownRows().showChanges();
-  table.selectAll();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "a\t1\nc\t1");
   list.clear();
   EXPECT_EQ(shownRows(), 3) << "it is not seen empty in between";
   add("a", "4");
@@ -76,15 +67,10 @@ TEST_F(ListTableTest, a_list_that_is_filled_anew_keeps_the_selection_of_a_row_th
   EXPECT_EQ(table.selectedText(), "a\t4");
 }
 
-TEST(IndicatorPicture, on_and_off_differ_without_their_colours_and_a_press_is_told) {
+TEST(IndicatorPicture, tells_of_a_press_by_the_mouse_and_by_a_key) {
   Picture model;
   IndicatorPicture lamp(model, "lamp", "Lamp", nullptr);
   lamp.resize(lamp.sizeHint());
-  model.image.set("off");
-  const QImage off = lamp.grab().toImage().convertToFormat(QImage::Format_Mono);
-  model.image.set("on");
-  EXPECT_NE(lamp.grab().toImage().convertToFormat(QImage::Format_Mono), off);
-  EXPECT_EQ(lamp.accessibleDescription(), "on");
   int pressed = 0;
   const Connection listening = model.clicked.connect([&pressed] { ++pressed; });
   QTest::mouseClick(&lamp, Qt::LeftButton);

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <functional>
+#include <numeric>
 
 #include "desktop/adapters/NoticeLayout.h"
 #include "desktop/adapters/QtLoop.h"
@@ -48,6 +49,11 @@ QStringList popMsgTexts() {
   return shown.isEmpty() ? QStringList() : textsOn(shown.first());
 }
 
+void putMouseOn(QWidget* notice) {
+  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+  QApplication::sendEvent(notice, &enter);
+}
+
 struct NoticesTest : ::testing::Test {
   NoticesTest() { QCursor::setPos(screen.center()); }
 
@@ -62,6 +68,12 @@ struct NoticesTest : ::testing::Test {
     returned << balloons;
   }
 
+  int timeOf(const std::function<void()>& act) {
+    const std::uint64_t before = loop.tickCount();
+    act();
+    return static_cast<int>(loop.tickCount() - before);
+  }
+
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   QtLoop loop;
   QtNotices notices{loop, longTime};
@@ -69,61 +81,41 @@ struct NoticesTest : ::testing::Test {
   QList<int> returned;  // which balloons' calls did, in that order
 };
 
-TEST_F(NoticesTest, a_balloon_lets_events_run_and_returns_when_the_user_clicks_it_away) {
-  QStringList seen;
-  QTimer::singleShot(0, [&] {
-    seen = textsOn(onScreen("balloon").first());
-    QTest::mouseClick(onScreen("balloon").first(), Qt::LeftButton);
-  });
-  notices.popUpBalloon("<b>Sm\xF8r</b>", "");
-  EXPECT_EQ(seen, (QStringList{"Vantrel CE", QString::fromUtf8("<b>Smør</b>")})) << "a text is no markup";
+TEST_F(NoticesTest, a_balloon_lets_events_run_until_the_user_takes_it_away_or_its_time_is_over) {
+  for (const bool byItsButton : {false, true}) {
+    QStringList seen;
+    QTimer::singleShot(0, [&] {
+      QWidget* const balloon = onScreen("balloon").first();
+      seen = textsOn(balloon);
+      QTest::mouseClick(byItsButton ? balloon->findChild<QAbstractButton*>() : balloon, Qt::LeftButton);
+    });
+    EXPECT_LT(timeOf([&] { notices.popUpBalloon("<b>Sm\xF8r</b>", ""); }), longTime / 2);
+    EXPECT_EQ(seen, (QStringList{"Vantrel CE", QString::fromUtf8("<b>Smør</b>")})) << "a text is no markup";
+  }
+  EXPECT_GE(timeOf([&] { briefNotices.popUpBalloon("text", "title"); }), shortTime - 5);
   EXPECT_TRUE(onScreen("balloon").isEmpty());
 }
 
-TEST_F(NoticesTest, a_balloon_has_a_button_that_closes_it) {
-  QTimer::singleShot(0, [] { onScreen("balloon").first()->findChild<QAbstractButton*>()->click(); });
-  notices.popUpBalloon("text", "title");
-  EXPECT_TRUE(onScreen("balloon").isEmpty());
-}
-
-TEST_F(NoticesTest, a_balloon_that_nobody_touches_ends_by_itself) {
-  const std::uint64_t before = loop.tickCount();
-  briefNotices.popUpBalloon("text", "title");
-  EXPECT_GE(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime - 5));
-  EXPECT_TRUE(onScreen("balloon").isEmpty());
-}
-
-TEST_F(NoticesTest, balloons_inside_one_another_are_all_seen_and_return_from_the_inside_out) {
-  nest(3, [] {
-    const QWidgetList shown = onScreen("balloon");
-    ASSERT_EQ(shown.size(), 3);
-    for (const QWidget* const one : shown) {
-      for (const QWidget* const other : shown) {
-        EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()));
-      }
-    }
-    for (QWidget* const each : shown) {
-      QTest::mouseClick(each, Qt::LeftButton);
-    }
-  });
-  EXPECT_EQ(returned, (QList<int>{1, 2, 3}));
-}
-
-TEST_F(NoticesTest, a_key_held_down_stacks_no_more_than_a_few_balloons) {
+TEST_F(NoticesTest, a_few_balloons_are_seen_inside_one_another_and_return_from_the_inside_out) {
   nest(static_cast<int>(QtNotices::mostBalloons), [this] {
     for (int i = 0; i < 100; ++i) {
       notices.popUpBalloon("one too many", "");
     }
-    EXPECT_EQ(onScreen("balloon").size(), static_cast<qsizetype>(QtNotices::mostBalloons));
+    const QWidgetList shown = onScreen("balloon");
+    EXPECT_EQ(shown.size(), static_cast<qsizetype>(QtNotices::mostBalloons));
     QStringList texts;
-    for (QWidget* const each : onScreen("balloon")) {
-      texts << textsOn(each).last();
-      each->hide();
+    for (QWidget* const one : shown) {
+      texts << textsOn(one).last();
+      EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [one](const QWidget* other) {
+        return one != other && one->geometry().intersects(other->geometry());
+      }));
     }
     EXPECT_EQ(texts.count("one too many"), 1);
     EXPECT_FALSE(texts.contains("balloon 1")) << "the innermost one is to show the new text";
+    std::for_each(shown.begin(), shown.end(), [](QWidget* each) { QTest::mouseClick(each, Qt::LeftButton); });
   });
   EXPECT_EQ(returned.size(), static_cast<qsizetype>(QtNotices::mostBalloons));
+  EXPECT_TRUE(std::is_sorted(returned.begin(), returned.end()));
 }
 
 TEST_F(NoticesTest, balloons_end_at_once_when_the_program_ends_and_none_begins_any_more) {
@@ -135,9 +127,15 @@ TEST_F(NoticesTest, balloons_end_at_once_when_the_program_ends_and_none_begins_a
   EXPECT_TRUE(onScreen("balloon").isEmpty());
 }
 
-TEST_F(NoticesTest, a_short_message_returns_at_once_and_the_next_takes_its_place) {
+TEST_F(NoticesTest, a_short_message_returns_at_once_leaves_the_focus_alone_and_gives_way_to_the_next) {
+  QWidget window;
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   notices.ShowPopMsg("one\r\ntwo\nthree");
   EXPECT_EQ(popMsgTexts(), QStringList{"one\ntwo\nthree"});
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(onScreen("popMsg").first()));
+  EXPECT_TRUE(window.isActiveWindow());
   notices.ShowPopMsg("four");
   EXPECT_EQ(popMsgTexts(), QStringList{"four"});
   EXPECT_EQ(onScreen("popMsg").size(), 1);
@@ -145,21 +143,10 @@ TEST_F(NoticesTest, a_short_message_returns_at_once_and_the_next_takes_its_place
   EXPECT_TRUE(popMsgTexts().isEmpty());
 }
 
-TEST_F(NoticesTest, a_message_leaves_the_focus_where_the_user_works) {
-  QWidget window;
-  window.show();
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  notices.ShowPopMsg("text");
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(onScreen("popMsg").first()));
-  EXPECT_TRUE(window.isActiveWindow());
-}
-
 TEST_F(NoticesTest, a_message_stays_while_the_mouse_is_on_it_and_then_has_its_whole_time) {
   briefNotices.ShowPopMsg("one");
   QWidget* const notice = onScreen("popMsg").first();
-  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-  QApplication::sendEvent(notice, &enter);
+  putMouseOn(notice);
   briefNotices.ShowPopMsg("two");
   loop.wait(2 * shortTime);
   EXPECT_EQ(popMsgTexts(), QStringList{"two"});
@@ -174,31 +161,22 @@ TEST_F(NoticesTest, a_message_stays_while_the_mouse_is_on_it_and_then_has_its_wh
 TEST_F(NoticesTest, the_program_can_wait_until_a_message_was_seen_but_no_longer_with_a_mouse_that_holds_it) {
   notices.waitForNotice();  // With nothing on the screen there is nothing to wait for.
   for (const bool held : {false, true}) {
-    const std::uint64_t before = loop.tickCount();
-    briefNotices.ShowPopMsg("Vantrel CE is already running");
-    if (held) {
-      QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-      QApplication::sendEvent(onScreen("popMsg").first(), &enter);
-    }
-    briefNotices.waitForNotice();
-    EXPECT_GE(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime - 5));
-    EXPECT_LT(loop.tickCount() - before, static_cast<std::uint64_t>(shortTime + 2000));
+    const int time = timeOf([&] {
+      briefNotices.ShowPopMsg("Vantrel CE is already running");
+      held ? putMouseOn(onScreen("popMsg").first()) : void();
+      briefNotices.waitForNotice();
+    });
+    EXPECT_TRUE(time >= shortTime - 5 && time < shortTime + 2000) << time;
   }
 }
 
 TEST_F(NoticesTest, no_text_makes_a_notice_leave_the_screen) {
-  std::string bytes;
-  for (int byte = 0; byte < 256; ++byte) {
-    bytes += static_cast<char>(byte);
-  }
-  const std::string texts[] = {
-      "",   std::string(10'000, 'W'), std::string(10'000, '\n'), std::string(10'000, ' '), std::string(10'000, '\0'),
-      bytes};
-  const QPoint corners[] = {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()};
-  for (const std::string& text : texts) {
+  std::string everyByte(256, '\0');
+  std::iota(everyByte.begin(), everyByte.end(), '\0');
+  for (const std::string& text : {std::string(), std::string(10'000, 'W'), std::string(10'000, '\n'), everyByte}) {
     notices.ShowPopMsg(text);
     EXPECT_TRUE(screen.contains(onScreen("popMsg").first()->geometry())) << text.substr(0, 4);
-    for (const QPoint& corner : corners) {
+    for (const QPoint& corner : {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()}) {
       QCursor::setPos(corner);
       QTimer::singleShot(0, [&] {
         QWidget* const balloon = onScreen("balloon").first();
@@ -230,18 +208,6 @@ TEST(NoticeLayout, a_text_breaks_at_blanks_where_it_can_anywhere_where_it_must_a
   for (const auto& row : table) {
     EXPECT_EQ(fittedText(QString::fromLatin1(row.text), font, room).toStdString(), row.lines.toStdString());
   }
-}
-
-TEST(NoticeLayout, a_notice_goes_to_its_first_free_wish_else_beside_the_others_else_anywhere_on_the_screen) {
-  const QRect screen(100, 100, 400, 300);
-  const QSize size(100, 50);
-  const QList<QPoint> wishes = {{450, 120}, {120, 120}};
-  EXPECT_EQ(freePlace(size, wishes, screen, {}), QPoint(120, 120)) << "the first wish reaches over the edge";
-  const QPoint beside = freePlace(size, wishes, screen, {QRect(130, 110, 60, 60)});
-  EXPECT_TRUE(screen.contains(QRect(beside, size)));
-  EXPECT_FALSE(QRect(beside, size).intersects(QRect(130, 110, 60, 60)));
-  EXPECT_EQ(freePlace(size, wishes, screen, {screen}), QPoint(400, 120));
-  EXPECT_EQ(freePlace({900, 900}, wishes, screen, {}), screen.topLeft());
 }
 
 }  // namespace
