@@ -24,7 +24,7 @@ AutoSwitches::AutoSwitches(frmMain& window, Commands& commands, Settings& settin
     window_.cmdMenu[command::autoJoinOff].value.set(1);
     turn("AutoJoin", window_.picJoin, State::off);
   });
-  // The buttons are there from the start; a theme or a later page may hide them.
+  // The buttons are there from the start, so this brings back what something has hidden, and is no more than that.
   connections_.push_back(window.picJoin.clicked.connect([this] {
     window_.cmdMenu[command::autoJoinOn].visible.set(true);
     window_.cmdMenu[command::autoJoinOff].visible.set(true);

@@ -12,6 +12,7 @@
 
 #include "core/Text.h"
 #include "desktop/controls/TextField.h"
+#include "desktop/grid/ServerGridIcons.h"
 #include "desktop/text/Cp1252.h"
 
 namespace vantrel {
@@ -28,7 +29,7 @@ void paint(QWidget& widget, QPalette::ColorRole role, Color color) {
       palette.setBrush(group, role, own.brush(group, role));
     }
   } else {
-    palette.setColor(role, QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF));
+    palette.setColor(role, gridColor(color));
   }
   widget.setPalette(palette);
 }

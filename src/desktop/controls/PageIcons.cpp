@@ -1,9 +1,10 @@
 #include "desktop/controls/PageIcons.h"
 
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+
+#include "desktop/grid/DrawnIcon.h"
 
 namespace vantrel {
 namespace {
@@ -27,7 +28,7 @@ void paintClear(QPainter& painter) {
   painter.drawLine(QPointF(5.6, 13.4), QPointF(14, 13.4));
 }
 
-class PageIconEngine : public QIconEngine {
+class PageIconEngine : public DrawnIcon {
  public:
   PageIconEngine(PageIcon picture, const QColor& ink) : picture_(picture), ink_(ink) {}
 
@@ -48,14 +49,6 @@ class PageIconEngine : public QIconEngine {
       painter->drawLine(QPointF(3, 13), QPointF(13, 3));
     }
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap result(size);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-    return result;
   }
 
   QIconEngine* clone() const override { return new PageIconEngine(picture_, ink_); }

@@ -1,11 +1,12 @@
 #include "desktop/grid/ServerGridIcons.h"
 
 #include <QConicalGradient>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+
+#include "desktop/grid/DrawnIcon.h"
 
 namespace vantrel {
 
@@ -79,7 +80,7 @@ void paintPing(QPainter& painter) {
   painter.drawPath(pulse);
 }
 
-class GridIconEngine : public QIconEngine {
+class GridIconEngine : public DrawnIcon {
  public:
   explicit GridIconEngine(int number) : number_(number) {}
 
@@ -88,14 +89,6 @@ class GridIconEngine : public QIconEngine {
     painter->setOpacity(mode == QIcon::Disabled ? 0.4 : 1.0);
     paintGridImage(*painter, number_, rect);
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap result(size);
-    result.fill(Qt::transparent);
-    QPainter painter(&result);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-    return result;
   }
 
   QIconEngine* clone() const override { return new GridIconEngine(number_); }
