@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <utility>
 
+#include "desktop/grid/ServerGridView.h"
 #include "desktop/pages/HelpText.h"
+#include "desktop/pages/ServerPage.h"
 
 namespace vantrel {
 
@@ -25,6 +27,8 @@ Program::Program(Site site, const Version& version, const Places& places)
       settings_(frmMain_, modReg_, commands_, gameFolder_, notices_),
       pages_(frmMain_, commands_, notices_),
       inputBoxes_(frmMain_, commands_, notices_, loop_),
+      favorites_({storeContext_, stores_, rewrites_, commands_, dialogs_}),
+      serverList_(frmMain_, commands_, notices_, popupMenu_, loop_),
       autoSwitches_(frmMain_, commands_, settings_),
       layout_(frmMain_),
       detailView_(frmMain_, commands_, version),
@@ -42,7 +46,19 @@ Program::Program(Site site, const Version& version, const Places& places)
   commands_.add(command::getServerList, [this] { exchange_.start(); });
   commands_.add(command::locateGame, [this] { gameFolder_.locate(); });
   startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
+  keepColumns();
   connectEnd();
+}
+
+// The columns of the server list are the view's alone; of the rest of the program only the settings know them, as a
+// text.
+void Program::keepColumns() {
+  const std::string name = "ServerColumns";
+  ServerGridView& grid = window_.serverPage().grid();
+  const std::string kept = modReg_.GetRegValue(RegistryRoot::currentUser, parametersKey, name);
+  grid.setColumnLayout(kept == notFound ? std::string() : kept);
+  QObject::connect(&grid, &ServerGridView::columnLayoutChanged, &grid,
+                   [this, &grid, name] { settings_.setParameter(name, grid.columnLayout()); });
 }
 
 // The program leaves its loops without asking its windows, which are gone by then.

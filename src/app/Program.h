@@ -5,8 +5,10 @@
 
 #include "app/Places.h"
 #include "appearance/WindowLayout.h"
+#include "browser/Favorites.h"
 #include "browser/InputBoxes.h"
 #include "browser/Pages.h"
+#include "browser/ServerList.h"
 #include "core/AppFolder.h"
 #include "core/Commands.h"
 #include "core/GameFolder.h"
@@ -23,6 +25,7 @@
 #include "desktop/adapters/QtDialogs.h"
 #include "desktop/adapters/QtLoop.h"
 #include "desktop/adapters/QtNotices.h"
+#include "desktop/adapters/QtPopupMenu.h"
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
 #include "desktop/window/MainWindow.h"
@@ -54,6 +57,7 @@ class Program {
   void end();
 
  private:
+  void keepColumns();
   void connectEnd();
 
   Site site_;
@@ -61,6 +65,7 @@ class Program {
   DiskFiles files_;
   QtNotices notices_{loop_};
   QtDialogs dialogs_{loop_};
+  QtPopupMenu popupMenu_{loop_};
   WinePrefix winePrefix_;
   SettingsRegistry registry_;
   LockFile lock_;
@@ -82,6 +87,8 @@ class Program {
   Settings settings_;
   Pages pages_;
   InputBoxes inputBoxes_;
+  Favorites favorites_;
+  ServerList serverList_;
   AutoSwitches autoSwitches_;
   WindowLayout layout_;
   DetailView detailView_;

@@ -24,6 +24,9 @@ class StoreRewrites {
   void saveBuddies(const std::string& b_File);
   void saveMirrors(const std::string& m2_File);
 
+  // True while a rewrite of the file waits in one of its pauses.
+  bool isUnderWay(const std::string& file) const { return underWay_.contains(file); }
+
  private:
   struct Steps {
     const StoreFormat& format;

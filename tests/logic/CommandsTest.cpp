@@ -209,9 +209,9 @@ TEST(InputBoxes, a_key_that_does_not_belong_there_is_swallowed_with_a_balloon) {
     EXPECT_EQ(press(window.txtIP2, passes) + press(window.txtPort2, passes), "passespasses") << passes;
   }
   EXPECT_EQ(press(window.txtIP2, '.'), "passes");
-  EXPECT_EQ(press(window.txtPort2, '.'), "Invalid key!Only 0-9 is allowed");
+  EXPECT_EQ(press(window.txtPort2, '.'), "Invalid key!: Only 0-9 is allowed");
   for (const int refused : {int{'a'}, int{' '}, int{':'}, int{'-'}, 13, 0xE9}) {
-    EXPECT_EQ(press(window.txtIP2, refused), "Invalid IP!Only 0-9 and \".\" is allowed") << refused;
+    EXPECT_EQ(press(window.txtIP2, refused), "Invalid IP!: Only 0-9 and \".\" is allowed") << refused;
   }
   EXPECT_EQ(press(window.txtIP, 'x'), "passes") << "the current server may be a name";
 }
@@ -230,7 +230,7 @@ TEST(InputBoxes, a_paste_keeps_what_could_have_been_typed_and_the_colon_that_spl
   EXPECT_EQ(pasted, "192.0.2.1:2302");
   EXPECT_TRUE(world.notices.log.empty()) << "the balloon waits for the paste to be over";
   world.loop.wait(0);
-  EXPECT_EQ(world.notices.log.back(), "Invalid IP!Only 0-9 and \".\" is allowed");
+  EXPECT_EQ(world.notices.log.back(), "Invalid IP!: Only 0-9 and \".\" is allowed");
   for (TextBox* const port : {&world.mainWindow.txtPort, &world.mainWindow.txtPort2}) {
     pasted = "192.0.2.1:2302\r\n";
     port->pasting.fire(pasted);

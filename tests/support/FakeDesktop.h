@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/InstanceLock.h"
 #include "platform/Shell.h"
+#include "platform/cPopupMenu.h"
 
 namespace vantrel {
 
@@ -47,6 +49,21 @@ struct FakeDialogs : Dialogs {
     answers.pop_front();
     return first;
   }
+};
+
+// A user who chooses entry `choice` of every menu, behind whatever `meanwhile` does.
+struct FakePopupMenu : cPopupMenu {
+  int Popup(const std::vector<std::string>& items) override {
+    shown.push_back(items);
+    if (meanwhile) {
+      meanwhile();
+    }
+    return choice;
+  }
+
+  int choice = 0;
+  std::function<void()> meanwhile;
+  std::vector<std::vector<std::string>> shown;
 };
 
 // Opens everything, unless it is told not to.

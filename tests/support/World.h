@@ -2,12 +2,16 @@
 // does, presses commands and lets time pass, and looks where the user looks: in the fields, on the disk, in the log.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "appearance/WindowLayout.h"
+#include "browser/Favorites.h"
 #include "browser/InputBoxes.h"
 #include "browser/Pages.h"
+#include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
 #include "join/AutoSwitches.h"
 #include "query/DetailView.h"
@@ -22,9 +26,23 @@ namespace vantrel {
 // Keeps what the user was told.
 struct FakeNotices : Notices {
   void ShowPopMsg(const std::string& text) override { log.push_back(text); }
-  void popUpBalloon(const std::string& text, const std::string& title) override { log.push_back(title + text); }
+  void popUpBalloon(const std::string& text, const std::string& title) override {
+    log.push_back(title + (title.empty() ? "" : ": ") + text);
+    if (duringBalloon) {
+      duringBalloon();
+    }
+  }
+  // What the user was told since the last call, a line each.
+  std::string told() {
+    std::string all;
+    for (const std::string& text : std::exchange(log, {})) {
+      all += (all.empty() ? "" : "\n") + text;
+    }
+    return all;
+  }
 
   std::vector<std::string> log;
+  std::function<void()> duringBalloon;
 };
 
 struct World {
@@ -114,6 +132,9 @@ struct World {
   Settings settings{mainWindow, reg, commands, game, notices};
   Pages pages{mainWindow, commands, notices};
   InputBoxes boxes{mainWindow, commands, notices, loop};
+  Favorites favorites{{context, stores, rewrites, commands, dialogs}};
+  FakePopupMenu menu;
+  ServerList serverList{mainWindow, commands, notices, menu, loop};
   AutoSwitches switches{mainWindow, commands, settings};
   WindowLayout layout{mainWindow};
   DetailView detail{mainWindow, commands, version};

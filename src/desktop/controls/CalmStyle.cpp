@@ -15,6 +15,7 @@ constexpr int controlHeight = 24;  // of buttons and boxes
 constexpr int textMargin = 11;     // on either side of a button's text
 constexpr int cellMargin = 4;      // on either side of a text in a list
 constexpr int tickSide = 14;       // of the square of a check box
+constexpr qreal menuEdge = 0.3;    // share of the text's colour in a menu's outline and separators
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag) {
   return (option.state & flag) != 0;
@@ -129,6 +130,10 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
   } else if (element == PE_Frame) {
     painter->setPen(edgeOf(*option, QPalette::Base, QPalette::Text));
     painter->drawRect(inner(option->rect));
+  } else if (element == PE_FrameMenu) {
+    painter->setPen(
+        mixed(option->palette.color(QPalette::Window), option->palette.color(QPalette::WindowText), menuEdge));
+    painter->drawRect(inner(option->rect));
   } else if (element == PE_FrameFocusRect) {
     if (widget == nullptr || !widget->inherits("QPushButton")) {
       painter->setPen(theme::focus);
@@ -146,6 +151,14 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
                             const QWidget* widget) const {
   if (element == CE_HeaderSection) {
     paintHeader(*painter, *option);
+    return;
+  }
+  const auto* const entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuItem && entry != nullptr && entry->menuItemType == QStyleOptionMenuItem::Separator) {
+    const QRect line(entry->rect.left() + cellMargin, entry->rect.center().y(), entry->rect.width() - 2 * cellMargin,
+                     1);
+    painter->fillRect(
+        line, mixed(entry->palette.color(QPalette::Window), entry->palette.color(QPalette::WindowText), menuEdge));
     return;
   }
   const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -213,10 +226,14 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
   }
 }
 
-// Mnemonics are underlined at all times: a user sees that there are any.
+// Mnemonics are underlined at all times: a user sees that there are any. Text that is off has no shadow, which would
+// smear it on a dark ground.
 int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* data) const {
-  return hint == SH_UnderlineShortcut ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+  if (hint == SH_UnderlineShortcut || hint == SH_EtchDisabledText) {
+    return hint == SH_UnderlineShortcut ? 1 : 0;
+  }
+  return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 }  // namespace vantrel

@@ -1,5 +1,8 @@
 #include "desktop/controls/FavesListModel.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "desktop/controls/PlainText.h"
 #include "desktop/text/Cp1252.h"
 
@@ -9,11 +12,29 @@ namespace {
 constexpr int batchInterval = 30;           // milliseconds
 constexpr std::size_t longestShown = 1000;  // characters; more never fit
 
+std::string_view beginning(const std::string& text) {
+  return std::string_view(text).substr(0, longestShown);
+}
+
 QString shownText(const std::string& text) {
-  return oneLine(fromCp1252(std::string_view(text).substr(0, longestShown)));
+  return oneLine(fromCp1252(text));
+}
+
+bool isBlank(const std::string& text) {
+  return shownText(text).trimmed().isEmpty();
 }
 
 }  // namespace
+
+bool FavesListModel::Row::shows(const FavoriteItem& item) const {
+  return name == beginning(item.name) && hostname == beginning(item.hostname) && gametype == beginning(item.gametype) &&
+         locked == !item.password.empty();
+}
+
+FavesListModel::Row FavesListModel::rowOf(const FavoriteItem& item) {
+  return {std::string(beginning(item.name)), std::string(beginning(item.hostname)),
+          std::string(beginning(item.gametype)), !item.password.empty()};
+}
 
 FavesListModel::FavesListModel(FavoritesList& list, QObject* parent)
     : QAbstractListModel(parent), list_(list), changed_(list.changed.connect([this] { noteChange(); })) {
@@ -31,15 +52,16 @@ void FavesListModel::noteChange() {
 
 void FavesListModel::showChanges() {
   pause_.stop();
-  std::vector<Row> fresh = readRows();
-  resizeTo(fresh.size());
+  resizeTo(list_.count());
   int first = rowCount();
   int last = -1;
-  for (std::size_t i = 0; i < fresh.size(); ++i) {
-    if (rows_[i] != fresh[i]) {
-      rows_[i] = std::move(fresh[i]);
-      last = static_cast<int>(i);
-      first = std::min(first, last);
+  for (int i = 0; i < rowCount(); ++i) {
+    Row& row = rows_[static_cast<std::size_t>(i)];
+    const FavoriteItem& item = list_.at(i + 1);
+    if (!row.shows(item)) {
+      row = rowOf(item);
+      first = std::min(first, i);
+      last = i;
     }
   }
   if (last >= 0) {
@@ -48,25 +70,15 @@ void FavesListModel::showChanges() {
   Q_EMIT upToDate();
 }
 
-std::vector<FavesListModel::Row> FavesListModel::readRows() const {
-  std::vector<Row> rows;
-  for (int number = 1; number <= list_.count(); ++number) {
-    const FavoriteItem& item = list_.at(number);
-    rows.push_back({shownText(item.name), shownText(item.hostname), shownText(item.gametype), !item.password.empty()});
-  }
-  return rows;
-}
-
-void FavesListModel::resizeTo(std::size_t count) {
+void FavesListModel::resizeTo(int count) {
   const int before = rowCount();
-  const int after = static_cast<int>(count);
-  if (after < before) {
-    beginRemoveRows({}, after, before - 1);
-    rows_.resize(count);
+  if (count < before) {
+    beginRemoveRows({}, count, before - 1);
+    rows_.resize(static_cast<std::size_t>(count));
     endRemoveRows();
-  } else if (after > before) {
-    beginInsertRows({}, before, after - 1);
-    rows_.resize(count);
+  } else if (count > before) {
+    beginInsertRows({}, before, count - 1);
+    rows_.resize(static_cast<std::size_t>(count));
     endInsertRows();
   }
 }
@@ -82,13 +94,15 @@ QVariant FavesListModel::data(const QModelIndex& index, int role) const {
   const Row& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
-      return row.name;
+      return title(row);
     case hostnameRole:
-      return row.hostname;
+      return shownText(row.hostname);
     case gametypeRole:
-      return row.gametype;
+      return shownText(row.gametype);
     case lockedRole:
       return row.locked;
+    case namelessRole:
+      return isBlank(row.name);
     case Qt::AccessibleTextRole:
       return told(row);
     case Qt::ToolTipRole:
@@ -98,8 +112,17 @@ QVariant FavesListModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+QString FavesListModel::title(const Row& row) {
+  if (!isBlank(row.name)) {
+    return shownText(row.name);
+  }
+  const bool isEmpty = isBlank(row.hostname) && isBlank(row.gametype) && !row.locked;
+  return isEmpty ? tr("(empty)") : tr("(no name)");
+}
+
 QString FavesListModel::told(const Row& row) {
-  QStringList texts{row.name, row.hostname, row.gametype, row.locked ? tr("password is stored") : QString()};
+  QStringList texts{title(row), shownText(row.hostname), shownText(row.gametype),
+                    row.locked ? tr("password is stored") : QString()};
   texts.removeAll(QString());
   return texts.join(QStringLiteral(", "));
 }

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QTimer>
+#include <string>
 #include <vector>
 
 #include "platform/FavoritesList.h"
@@ -14,8 +15,8 @@ class FavesListModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  // The display role is the name.
-  enum Role : int { hostnameRole = Qt::UserRole, gametypeRole, lockedRole };
+  // The display role is the name, or what stands in its place where there is none.
+  enum Role : int { hostnameRole = Qt::UserRole, gametypeRole, lockedRole, namelessRole };
 
   // `list` must outlive the model.
   explicit FavesListModel(FavoritesList& list, QObject* parent = nullptr);
@@ -31,18 +32,20 @@ class FavesListModel : public QAbstractListModel {
   void upToDate();
 
  private:
+  // Bytes, as the list has them: only a row in sight is worth a text of the toolkit.
   struct Row {
-    QString name;
-    QString hostname;
-    QString gametype;
+    std::string name;
+    std::string hostname;
+    std::string gametype;
     bool locked = false;
 
-    bool operator==(const Row& other) const = default;
+    bool shows(const FavoriteItem& item) const;
   };
 
   void noteChange();
-  std::vector<Row> readRows() const;
-  void resizeTo(std::size_t count);
+  void resizeTo(int count);
+  static Row rowOf(const FavoriteItem& item);
+  static QString title(const Row& row);
   static QString told(const Row& row);
 
   FavoritesList& list_;

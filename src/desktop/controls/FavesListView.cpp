@@ -1,80 +1,34 @@
 #include "desktop/controls/FavesListView.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
+#include <algorithm>
 
-#include "desktop/controls/CalmStyle.h"
-#include "desktop/controls/Theme.h"
-#include "desktop/grid/ServerGridIcons.h"
+#include "desktop/controls/FavesInks.h"
+#include "desktop/controls/FavesListDelegate.h"
+#include "desktop/controls/FavesPicture.h"
+#include "desktop/controls/PlainText.h"
+#include "desktop/text/Cp1252.h"
 
 namespace vantrel {
 namespace {
 
-// In pixels at 100 %.
-constexpr int sideMargin = 8;
-constexpr int lineMargin = 4;  // above the first line and below the second
-constexpr int columnGap = 8;
-constexpr int lockSide = 14;
-constexpr int hintMargin = 24;
+constexpr int hintMargin = 24;  // pixels at 100 %
 
-constexpr int lockImage = 1;       // of the server list's images
-constexpr qreal dimmer = 0.35;     // share of the ground's colour in the second line's
-constexpr qreal separation = 0.1;  // share of the text's colour in the line between items
-
-class FaveDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
-    return {2 * sideMargin, 2 * (option.fontMetrics.height() + lineMargin) + 1};
-  }
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    painter->save();
-    paintGround(*painter, option);
-    const bool selected = (option.state & QStyle::State_Selected) != 0;
-    const QColor text = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor dim = selected ? text : mixed(text, option.palette.color(QPalette::Base), dimmer);
-    QRect lines = option.rect.adjusted(sideMargin, lineMargin, -sideMargin, -lineMargin - 1);
-    QRect second = lines;
-    second.setTop(lines.top() + lines.height() / 2);
-    lines.setBottom(second.top() - 1);
-    if (index.data(FavesListModel::lockedRole).toBool()) {
-      paintGridImage(*painter, lockImage, QRect(second.right() - lockSide + 1, second.top(), lockSide, lockSide));
-      second.setRight(second.right() - lockSide - columnGap);
-    }
-    painter->setPen(dim);
-    paintText(*painter, second, index.data(FavesListModel::hostnameRole).toString(), Qt::AlignLeft);
-    const QString gametype = index.data(FavesListModel::gametypeRole).toString();
-    const QRect right = lines.adjusted(lines.width() * 2 / 3, 0, 0, 0);
-    const int taken = paintText(*painter, right, gametype, Qt::AlignRight);
-    painter->setPen(text);
-    paintText(*painter, lines.adjusted(0, 0, -taken, 0), index.data().toString(), Qt::AlignLeft);
-    painter->restore();
-  }
-
- private:
-  static void paintGround(QPainter& painter, const QStyleOptionViewItem& option) {
-    if ((option.state & QStyle::State_Selected) != 0) {
-      painter.fillRect(option.rect, option.palette.brush(QPalette::Highlight));
-    }
-    const QColor line = mixed(option.palette.color(QPalette::Base), option.palette.color(QPalette::Text), separation);
-    painter.fillRect(QRect(option.rect.bottomLeft(), QSize(option.rect.width(), 1)), line);
-  }
-
-  // The width that the text has taken, with a gap to what is beside it.
-  static int paintText(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment side) {
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, rect.width());
-    painter.drawText(rect, static_cast<int>((side | Qt::AlignVCenter).toInt()) | Qt::TextSingleLine, shown);
-    return shown.isEmpty() ? 0 : painter.fontMetrics().horizontalAdvance(shown) + columnGap;
-  }
-};
+bool isPress(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+}
 
 }  // namespace
 
 FavesListView::FavesListView(FavoritesList& list, const char* name, const QString& emptyHint, QWidget* parent)
-    : QListView(parent), list_(list), items_(new FavesListModel(list, this)), emptyHint_(emptyHint) {
+    : QListView(parent),
+      list_(list),
+      items_(new FavesListModel(list, this)),
+      picture_(new FavesPicture(list.picture, this)),
+      emptyHint_(emptyHint) {
   setObjectName(name);
   setAccessibleDescription(emptyHint);
   setUniformItemSizes(true);
@@ -82,12 +36,14 @@ FavesListView::FavesListView(FavoritesList& list, const char* name, const QStrin
   setSelectionMode(SingleSelection);
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setItemDelegate(new FaveDelegate(this));
-  setModel(items_);
-  // While the items change, the toolkit moves the current row about by itself.
+  setItemDelegate(new FavesListDelegate(this));
+  // While the items change, the toolkit moves the current row about by itself; this has to hear of it first.
   connect(items_, &FavesListModel::rowsAboutToBeRemoved, this, [this] { followsList_ = true; });
+  setModel(items_);
   connect(items_, &FavesListModel::upToDate, this, &FavesListView::showSelection);
+  connect(picture_, &FavesPicture::changed, viewport(), QOverload<>::of(&QWidget::update));
   connect(this, &QListView::clicked, this, &FavesListView::tellClick);
+  connect(this, &QListView::doubleClicked, this, &FavesListView::editAsked);
   showSelection();
 }
 
@@ -96,6 +52,7 @@ void FavesListView::showSelection() {
   const QModelIndex item = items_->index(list_.selected() - 1);
   if (item.isValid()) {
     setCurrentIndex(item);
+    lastSelected_ = list_.selected();
   } else {
     selectionModel()->clear();
   }
@@ -135,25 +92,98 @@ void FavesListView::mousePressEvent(QMouseEvent* event) {
   QListView::mousePressEvent(event);
 }
 
+// A double click of another button is two presses.
+void FavesListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  showChanges();
+  if (event->button() == Qt::LeftButton) {
+    QListView::mouseDoubleClickEvent(event);
+  } else {
+    QListView::mousePressEvent(event);
+  }
+}
+
 // Enter and the space bar are a click on the selected item.
 void FavesListView::keyPressEvent(QKeyEvent* event) {
   showChanges();
-  const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-  if (presses && currentIndex().isValid()) {
+  if (takeShortcut(*event)) {
+    return;
+  }
+  if (event->key() == Qt::Key_Space && isTyping()) {
+    keyboardSearch(event->text());
+  } else if (isPress(*event) && currentIndex().isValid()) {
     tellClick(currentIndex());
   } else {
     QListView::keyPressEvent(event);
   }
 }
 
+// A key that is held down asks once: each further item would be one more that nobody has looked at.
+bool FavesListView::takeShortcut(const QKeyEvent& event) {
+  const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (event.matches(QKeySequence::Copy)) {
+    copySelected();
+    return true;
+  }
+  if (!isPlain || (event.key() != Qt::Key_Delete && event.key() != Qt::Key_F2)) {
+    return false;
+  }
+  if (!event.isAutoRepeat() && event.key() == Qt::Key_Delete) {
+    Q_EMIT removeAsked();
+  } else if (!event.isAutoRepeat()) {
+    Q_EMIT editAsked();
+  }
+  return true;
+}
+
+void FavesListView::copySelected() const {
+  const QModelIndex item = currentIndex();
+  if (item.isValid()) {
+    QApplication::clipboard()->setText(oneLine(fromCp1252(list_.at(item.row() + 1).hostname)));
+  }
+}
+
+void FavesListView::keyboardSearch(const QString& typed) {
+  sinceTyped_.start();
+  QListView::keyboardSearch(typed);
+}
+
+// A name may have blanks in it.
+bool FavesListView::isTyping() const {
+  return sinceTyped_.isValid() && !sinceTyped_.hasExpired(QApplication::keyboardInputInterval());
+}
+
+// When the selected item is gone, the keys go on with the one that now stands in its place.
+QModelIndex FavesListView::moveCursor(CursorAction action, Qt::KeyboardModifiers held) {
+  if (currentIndex().isValid() || items_->rowCount() == 0) {
+    return QListView::moveCursor(action, held);
+  }
+  switch (action) {
+    case MoveHome:
+      return items_->index(0);
+    case MoveEnd:
+      return items_->index(items_->rowCount() - 1);
+    default:
+      return items_->index(std::min(lastSelected_, items_->rowCount()) - 1);
+  }
+}
+
+// All of the picture moves along with what is scrolled, and has to be put back.
+void FavesListView::scrollContentsBy(int dx, int dy) {
+  QListView::scrollContentsBy(dx, dy);
+  viewport()->update();
+}
+
 void FavesListView::paintEvent(QPaintEvent* event) {
-  QListView::paintEvent(event);
+  const FavesInks inks = inksOf(palette());
+  QPainter painter(viewport());
+  picture_->paint(painter, viewport()->size(), inks);
   if (items_->rowCount() == 0) {
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(inks.dim);
     painter.drawText(viewport()->rect().adjusted(hintMargin, 0, -hintMargin, 0),
                      static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, emptyHint_);
   }
+  painter.end();
+  QListView::paintEvent(event);
 }
 
 }  // namespace vantrel

@@ -1,5 +1,6 @@
 #include "desktop/grid/ServerGridHeader.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QProxyStyle>
@@ -33,6 +34,17 @@ ServerGridHeader::ServerGridHeader(QWidget* parent) : QHeaderView(Qt::Horizontal
   auto* const headerStyle = new HeaderStyle;
   headerStyle->setParent(this);
   setStyle(headerStyle);
+  connect(this, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+    if (onHandle_) {
+      Q_EMIT widthDragged(column, width);
+    }
+  });
+}
+
+QSize ServerGridHeader::sizeHint() const {
+  const auto metric = [this](QStyle::PixelMetric wanted) { return style()->pixelMetric(wanted, nullptr, this); };
+  const int withImage = metric(QStyle::PM_SmallIconSize) + 2 * metric(QStyle::PM_HeaderMargin);
+  return QHeaderView::sizeHint().expandedTo({0, withImage});
 }
 
 bool ServerGridHeader::isResizeHandle(int x) const {
@@ -42,12 +54,17 @@ bool ServerGridHeader::isResizeHandle(int x) const {
     return true;
   }
   const int left = sectionViewportPosition(column);
-  return (x < left + grip && visualIndex(column) > 0) || x > left + sectionSize(column) - grip;
+  return (x < left + grip && sectionPosition(column) > 0) || x > left + sectionSize(column) - grip;
+}
+
+bool ServerGridHeader::takesHandle(const QMouseEvent& event) const {
+  return event.button() == Qt::LeftButton && isResizeHandle(event.position().toPoint().x());
 }
 
 void ServerGridHeader::mousePressEvent(QMouseEvent* event) {
   press_ = event->position().toPoint();
   outside_ = false;
+  onHandle_ = takesHandle(*event);
   dragged_ = event->button() == Qt::LeftButton && !isResizeHandle(press_.x()) ? logicalIndexAt(press_) : -1;
   QHeaderView::mousePressEvent(event);
 }
@@ -81,6 +98,7 @@ void ServerGridHeader::mouseMoveEvent(QMouseEvent* event) {
 
 void ServerGridHeader::mouseReleaseEvent(QMouseEvent* event) {
   const int column = std::exchange(dragged_, -1);
+  onHandle_ = false;
   if (!std::exchange(outside_, false)) {
     QHeaderView::mouseReleaseEvent(event);
     return;
@@ -90,6 +108,18 @@ void ServerGridHeader::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
     Q_EMIT dropped(column, event->globalPosition().toPoint());
   }
+}
+
+// On an edge it fits the column to its texts.
+void ServerGridHeader::mouseDoubleClickEvent(QMouseEvent* event) {
+  onHandle_ = takesHandle(*event);
+  QHeaderView::mouseDoubleClickEvent(event);
+  onHandle_ = false;
+}
+
+void ServerGridHeader::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  Q_EMIT menuWanted(event->globalPos());
 }
 
 void ServerGridHeader::keyPressEvent(QKeyEvent* event) {

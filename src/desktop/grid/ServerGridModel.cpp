@@ -23,13 +23,6 @@ constexpr std::array<ColumnWord, 3> columnWords = {{
     {"cPassword", "Password"},
 }};
 
-// Control characters come from servers' names and would be drawn as boxes.
-QString withoutControls(const std::string& text) {
-  QString result = fromCp1252(text);
-  result.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
-  return result;
-}
-
 int alignmentFlags(Alignment alignment) {
   const Qt::AlignmentFlag horizontal = alignment == Alignment::left    ? Qt::AlignLeft
                                        : alignment == Alignment::right ? Qt::AlignRight
@@ -38,6 +31,12 @@ int alignmentFlags(Alignment alignment) {
 }
 
 }  // namespace
+
+QString withoutControls(std::string_view text) {
+  QString result = fromCp1252(text);
+  result.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
+  return result;
+}
 
 ServerGridModel::ServerGridModel(ServerGrid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid), order_(grid) {

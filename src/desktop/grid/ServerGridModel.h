@@ -9,12 +9,16 @@
 #include <QAbstractTableModel>
 #include <QElapsedTimer>
 #include <QTimer>
+#include <string_view>
 #include <vector>
 
 #include "desktop/grid/ServerGridOrder.h"
 #include "platform/ServerGrid.h"
 
 namespace vantrel {
+
+// A cell's text as it is shown: control characters come from servers' names and would be drawn as boxes.
+QString withoutControls(std::string_view text);
 
 class ServerGridModel : public QAbstractTableModel {
   Q_OBJECT

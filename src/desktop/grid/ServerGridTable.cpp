@@ -1,36 +1,15 @@
 #include "desktop/grid/ServerGridTable.h"
 
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "desktop/grid/ServerGridIcons.h"
 
 namespace vantrel {
-
-namespace {
-
-constexpr int arrowWidth = 22;  // of the part of a group row that folds it at one click
-
-std::optional<MouseButton> toMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return MouseButton::left;
-    case Qt::RightButton:
-      return MouseButton::right;
-    case Qt::MiddleButton:
-      return MouseButton::middle;
-    default:
-      return std::nullopt;
-  }
-}
-
-}  // namespace
 
 ServerGridTable::ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(model), selected_(grid.currentRow()) {
@@ -58,7 +37,6 @@ ServerGridTable::ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidg
     showSelection();
     viewport()->update();
   });
-  connect(&model_, &ServerGridModel::columnsShown, this, &ServerGridTable::applyColumns);
   connect(&model_, &ServerGridModel::lookShown, this, &ServerGridTable::applyLook);
   connections_.push_back(grid_.cleared.connect([this] {
     selected_ = 0;
@@ -82,12 +60,6 @@ int ServerGridTable::pitch() const {
 
 int ServerGridTable::firstInSight() const {
   return verticalScrollBar()->value() / pitch();
-}
-
-void ServerGridTable::applyColumns() {
-  for (int column = 0; column < model_.columnCount(); ++column) {
-    setColumnWidth(column, grid_.column(column + 1).width);
-  }
 }
 
 void ServerGridTable::applyLook() {
@@ -195,143 +167,6 @@ void ServerGridTable::putCursorOn(ServerGridOrder::Entry entry) {
 
 int ServerGridTable::cursorPosition() const {
   return model_.positionOf(cursorGroup_ != 0 ? cursorGroup_ : selected_);
-}
-
-void ServerGridTable::mousePressEvent(QMouseEvent* event) {
-  press(event);
-}
-
-// The second press of a double click is a press like the first, but for a group row, where it folds.
-void ServerGridTable::mouseDoubleClickEvent(QMouseEvent* event) {
-  const ServerGridOrder::Entry entry = model_.entryAt(indexAt(event->position().toPoint()).row());
-  if (entry < 0 && event->button() == Qt::LeftButton) {
-    putCursorOn(entry);
-    toggle(entry);
-    return;
-  }
-  press(event);
-}
-
-// Dragging over the rows selects nothing: the row of the press stays the selected one.
-void ServerGridTable::mouseMoveEvent(QMouseEvent* event) {
-  event->accept();
-}
-
-void ServerGridTable::mouseReleaseEvent(QMouseEvent* event) {
-  event->accept();
-}
-
-// A listener of the grid may run other events, in which rows come or the grid is cleared. So the event is read first,
-// and nothing of the table is looked at after the grid was told.
-void ServerGridTable::press(QMouseEvent* event) {
-  const QModelIndex index = indexAt(event->position().toPoint());
-  const auto button = toMouseButton(event->button());
-  const ServerGridOrder::Entry entry = model_.entryAt(index.row());
-  event->accept();
-  if (!button) {
-    return;
-  }
-  if (entry < 0) {
-    putCursorOn(entry);
-    if (button == MouseButton::left && event->position().x() < arrowWidth) {
-      toggle(entry);
-    }
-    return;
-  }
-  ServerGrid& grid = grid_;
-  if (entry > 0 && (button == MouseButton::left || entry != grid.currentRow())) {
-    column_ = index.column();
-    putCursorOn(entry);
-    grid.select(entry, index.column() + 1);
-  }
-  grid.mouseButton.fire(*button);
-}
-
-void ServerGridTable::toggle(ServerGridOrder::Entry group) {
-  model_.fold(group, model_.order().group(group).folded ? Folding::open : Folding::folded);
-}
-
-bool ServerGridTable::foldByKey(int key) {
-  const bool fold = key == Qt::Key_Left;
-  if (!fold && key != Qt::Key_Right) {
-    return false;
-  }
-  if (cursorGroup_ != 0) {
-    model_.fold(cursorGroup_, fold ? Folding::folded : Folding::open);
-  } else if (fold && model_.order().groupOf(selected_) != 0) {
-    moveTo(model_.positionOf(model_.order().groupOf(selected_)));
-  } else {
-    QScrollBar* bar = horizontalScrollBar();
-    bar->setValue(bar->value() + (fold ? -bar->singleStep() : bar->singleStep()));
-  }
-  return true;
-}
-
-bool ServerGridTable::moveByKey(int key) {
-  const int last = model_.rowCount() - 1;
-  const int page = std::max(1, viewport()->height() / pitch() - 1);
-  // With nothing selected the keys start at the first row in sight.
-  const int now =
-      cursorPosition() >= 0 || key == Qt::Key_Home || key == Qt::Key_End ? cursorPosition() : firstInSight() - 1;
-  int wanted = now;
-  switch (key) {
-    case Qt::Key_Up:
-      wanted = now - 1;
-      break;
-    case Qt::Key_Down:
-      wanted = now + 1;
-      break;
-    case Qt::Key_PageUp:
-      wanted = now - page;
-      break;
-    case Qt::Key_PageDown:
-      wanted = now + page;
-      break;
-    case Qt::Key_Home:
-      wanted = 0;
-      break;
-    case Qt::Key_End:
-      wanted = last;
-      break;
-    default:
-      return false;
-  }
-  wanted = std::clamp(wanted, 0, std::max(0, last));
-  if (wanted != now) {
-    moveTo(wanted);
-  }
-  return true;
-}
-
-void ServerGridTable::moveTo(int position) {
-  const ServerGridOrder::Entry entry = model_.entryAt(position);
-  if (entry == 0) {
-    return;
-  }
-  putCursorOn(entry);
-  scrollTo(model_.index(position, column_));
-  if (entry > 0) {
-    grid_.select(entry, column_ + 1);
-  }
-}
-
-void ServerGridTable::keyPressEvent(QKeyEvent* event) {
-  const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
-  const bool plain = modifiers == Qt::NoModifier;
-  event->accept();
-  if (plain && (foldByKey(event->key()) || moveByKey(event->key()))) {
-    return;
-  }
-  if (plain && event->key() == Qt::Key_Space && cursorGroup_ != 0) {
-    toggle(cursorGroup_);
-    return;
-  }
-  // What the base class knows beyond that is the search for the letters that are typed.
-  const QModelIndex before = currentIndex();
-  QTableView::keyPressEvent(event);
-  if (currentIndex() != before) {
-    moveTo(currentIndex().row());
-  }
 }
 
 // The base class would put the cursor on the first row.

@@ -1,5 +1,6 @@
 // The rows of the server list on the screen: paints them, keeps what the user looks at in its place while rows arrive,
-// and tells the grid what the user selects.
+// and tells the grid what the user selects. How the rows look stands in ServerGridTablePaint.cpp, what mouse and keys
+// do in ServerGridTableInput.cpp.
 #pragma once
 
 #include <QPixmap>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "desktop/grid/ServerGridModel.h"
+#include "desktop/grid/TypeAhead.h"
 #include "platform/ServerGrid.h"
 
 namespace vantrel {
@@ -18,12 +20,19 @@ class ServerGridTable : public QTableView {
   // `grid` and `model` must outlive the table.
   ServerGridTable(ServerGrid& grid, ServerGridModel& model, QWidget* parent = nullptr);
 
-  // Gives the columns the widths that the grid tells.
-  void applyColumns();
   // To be called before the groups become others: the keys no longer stand on a group row.
   void forgetGroup() { cursorGroup_ = 0; }
 
   void doItemsLayout() override;
+  // Selects the next server whose name begins with what the user is typing.
+  void keyboardSearch(const QString& letters) override;
+  // The cursor is the row that the keys stand on, whatever column may be hidden: there a menu opens that keys ask for.
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+ Q_SIGNALS:
+  // The user wants to know more of the selected server. A listener may do anything, even clear the grid or end the
+  // program.
+  void rowActivated();
 
  protected:
   void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) override;
@@ -34,6 +43,7 @@ class ServerGridTable : public QTableView {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -57,7 +67,12 @@ class ServerGridTable : public QTableView {
   void toggle(ServerGridOrder::Entry group);
   bool moveByKey(int key);
   bool foldByKey(int key);
+  bool actByKey(QKeyEvent* event);
+  void activate();
   void moveTo(int position);
+  void bringIntoSight(int position);
+  void copyAddress() const;
+  void openMenu();
   void putCursorOn(ServerGridOrder::Entry entry);
   int cursorPosition() const;
 
@@ -70,8 +85,9 @@ class ServerGridTable : public QTableView {
   int selected_ = 0;                        // row number of the server, also while it is not shown
   ServerGridOrder::Entry cursorGroup_ = 0;  // the group row that the keys stand on, instead of the selected server
   int column_ = 0;                          // the table's column that was last clicked
-  int stripeShift_ = 0;                     // keeps each row's shade when rows come in above it
-  bool toTop_ = false;                      // the grid was cleared since the last batch
+  TypeAhead typeAhead_;
+  int stripeShift_ = 0;  // keeps each row's shade when rows come in above it
+  bool toTop_ = false;   // the grid was cleared since the last batch
   std::vector<Sight> sight_;
   std::vector<ServerGridOrder::Entry> shown_;  // in sight before the batch
   bool sightChanged_ = false;                  // one of them has another text

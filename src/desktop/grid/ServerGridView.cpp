@@ -20,7 +20,8 @@ ServerGridView::ServerGridView(ServerGrid& grid, QWidget* parent)
   table_->setItemDelegate(new ServerGridDelegate(grid, *model_, table_));
   table_->setHorizontalHeader(header_);
   header_->setSortIndicatorShown(true);  // only now: the table switches it off on a header that it takes
-  table_->applyColumns();
+  columns_ = new ServerGridColumns(grid, *model_, *header_, this);
+  connect(columns_, &ServerGridColumns::changed, this, &ServerGridView::columnLayoutChanged);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);

@@ -5,9 +5,11 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 #include <vector>
 
 #include "desktop/grid/GroupingBar.h"
+#include "desktop/grid/ServerGridColumns.h"
 #include "desktop/grid/ServerGridHeader.h"
 #include "desktop/grid/ServerGridModel.h"
 #include "desktop/grid/ServerGridTable.h"
@@ -33,6 +35,15 @@ class ServerGridView : public QWidget {
   // The numbers of all rows of the grid, also the hidden ones, in the order in which the user sees them.
   std::vector<int> rowsInOrder() const { return model_->order().allRows(); }
 
+  // Which columns are shown, in what order and how wide, as one line of text; see ColumnLayout. What is set is applied
+  // when the columns come, if there are none yet; an empty text gives the columns as the grid has them.
+  std::string columnLayout() const { return columns_->text(); }
+  void setColumnLayout(const std::string& text) { columns_->setText(text); }
+
+ Q_SIGNALS:
+  // The user has changed the columns; fired when he has been done with it for a moment.
+  void columnLayoutChanged();
+
  private:
   QIcon columnIcon(int column) const;
   void connectHeader();
@@ -44,6 +55,7 @@ class ServerGridView : public QWidget {
   GroupingBar* bar_;
   ServerGridTable* table_;
   ServerGridHeader* header_;
+  ServerGridColumns* columns_;
 };
 
 }  // namespace vantrel

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include "desktop/controls/PageIcons.h"
@@ -20,12 +21,25 @@ namespace {
 
 constexpr int shortBox = 64;  // pixels at 100 %, for a number
 constexpr int rowGap = 5;
+constexpr int longestLine = 1000;  // characters; more never fit
+
+// A line is as wide as the list, whatever stands in it: a longer text is cut off with dots.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
 
 // Both kinds of change, of the lines and of the selected one, are shown in one go.
 void showLines(QListWidget& widget, const ListBox& list) {
   widget.clear();
   for (int i = 0; i < list.count(); ++i) {
-    widget.addItem(oneLine(fromCp1252(list.line(i))));
+    const QString text = oneLine(fromCp1252(list.line(i)));
+    auto* const line = new QListWidgetItem(text.left(longestLine), &widget);
+    line->setToolTip(plainToolTip(text));
   }
 }
 
@@ -100,6 +114,8 @@ QListWidget* FaveEditor::makeLines(QWidget* card) {
   lines->setSelectionMode(QAbstractItemView::NoSelection);
   lines->setTabKeyNavigation(false);
   lines->setSpacing(1);
+  lines->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lines->setItemDelegate(new LineDelegate(lines));
   const auto show = [lines, this] { showLines(*lines, window_.List1); };
   show();
   bindings().keep(window_.List1.changed.connect(show));

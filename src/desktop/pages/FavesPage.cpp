@@ -20,14 +20,24 @@ FavesPage::FavesPage(frmMain& window, Commands& commands, QWidget* parent)
                                        content());
   list->setAccessibleName(tr("Favorites"));
   column->addWidget(list, 1);
+  // A key or a double click on the list is as good as the button, and as dead while the button is.
+  const auto press = [&window, &commands](command::Number number) {
+    if (window.cmdMenu[number].enabled.get()) {
+      commands.cmdMenu_Click(number);
+    }
+  };
+  connect(list, &FavesListView::editAsked, this, [press] { press(command::editFave); });
+  connect(list, &FavesListView::removeAsked, this, [press] { press(command::deleteFave); });
   auto* const row = new QHBoxLayout;
   row->setSpacing(page::gap);
   row->addWidget(
       parts.button(command::setFavePicture, content(), 'K', tr("Chooses a picture to stand behind the favorites")));
   row->addWidget(parts.button(command::removeFavePicture, content(), 0, tr("Takes the picture away")));
   row->addStretch(1);
-  row->addWidget(parts.button(command::editFave, content(), 'D', tr("Puts the selected favorite into the editor")));
-  row->addWidget(parts.button(command::deleteFave, content()));
+  row->addWidget(
+      parts.button(command::editFave, content(), 'D', tr("Puts the selected favorite into the editor (F2)")));
+  row->addWidget(
+      parts.button(command::deleteFave, content(), 0, tr("Takes the selected favorite off the list (Delete)")));
   column->addLayout(row);
 }
 

@@ -34,9 +34,17 @@ ServerPage::ServerPage(frmMain& window, Commands& commands, SweepProgress& progr
   rows->setSpacing(0);
   rows->addWidget(makeToolbar());
   grid_ = new ServerGridView(window.grdServers, this);
+  connect(&grid_->table(), &ServerGridTable::rowActivated, this, &ServerPage::querySelected);
   rows->addWidget(grid_, 1);
   rows->addWidget(makeFooter(progress));
   bindings_.bindUncovered(*this, window.grdServers.visible, window.PicBG.visible);
+}
+
+// As a press of the button: it does nothing while the button is off.
+void ServerPage::querySelected() {
+  if (window_.cmdMenu[command::queryServer].enabled.get()) {
+    commands_.cmdMenu_Click(command::queryServer);
+  }
 }
 
 QWidget* ServerPage::makeToolbar() {

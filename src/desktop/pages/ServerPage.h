@@ -29,6 +29,7 @@ class ServerPage : public QWidget {
   void addSearch(QBoxLayout& row);
   void addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model);
   QWidget* makeFooter(SweepProgress& progress);
+  void querySelected();
 
   frmMain& window_;
   Commands& commands_;

@@ -16,11 +16,13 @@
 namespace vantrel {
 
 struct GridWorld : testing::Test {
-  enum Column { name = 1, ping, map };
+  enum Column { name = 1, ping, ip, port, map };
 
   GridWorld() {
     grid.addColumn({"cName", "Server Name ", Alignment::left, 0, 165, 102});
     grid.addColumn({"cPing", "", Alignment::left, 4, 50, 102});
+    grid.addColumn({"cIP", "IP", Alignment::left, 0, 70, 102});
+    grid.addColumn({"cPort", "Port", Alignment::left, 0, 50, 0});
     grid.addColumn({"cMap", "Map", Alignment::left, 0, 100, 0});
     view.resize(600, 300);
     view.show();

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTest>
+#include <string>
 #include <vector>
 
 #include "desktop/controls/FavesListView.h"
@@ -22,6 +24,11 @@ struct FavesListTest : ::testing::Test {
     view.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     view.showChanges();
+    QObject::connect(&view, &FavesListView::editAsked, [this] { asked += 'e'; });
+    QObject::connect(&view, &FavesListView::removeAsked, [this] {
+      asked += 'r';
+      list.remove(list.selected());
+    });
   }
 
   QModelIndex item(int number) const { return view.model()->index(number - 1, 0); }
@@ -39,6 +46,7 @@ struct FavesListTest : ::testing::Test {
   FavoritesList list;
   FavesListView view{list, "faves", "Nothing yet.", nullptr};
   std::vector<int> clicks;
+  std::string asked;  // for what, by a letter each
   Connection counting = list.itemClicked.connect([this](int number) { clicks.push_back(number); });
 };
 
@@ -86,6 +94,62 @@ TEST_F(FavesListTest, keys_select_only_enter_or_the_space_bar_clicks_and_no_othe
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, QPoint(10, farAway));
   EXPECT_EQ(highlighted(), 2);
   EXPECT_EQ(list.selected(), 2);
+}
+
+TEST_F(FavesListTest, an_item_without_a_name_says_so_and_one_without_anything_does_not_look_broken) {
+  list.setName(1, " \t");
+  list.setName(2, "");
+  list.add({});
+  list.add({"", "secret", "", ""});
+  view.showChanges();
+  const QString titles[] = {"(no name)", "(no name)", "Two lines <b>&amp;", "(empty)", "(no name)"};
+  for (int number = 1; number <= 5; ++number) {
+    EXPECT_EQ(shown(number), titles[number - 1]);
+    EXPECT_EQ(item(number).data(FavesListModel::namelessRole).toBool(), number != 3);
+    EXPECT_TRUE(shown(number, Qt::AccessibleTextRole).startsWith(titles[number - 1]));
+  }
+}
+
+TEST_F(FavesListTest, a_double_click_is_one_click_and_one_wish_to_edit_and_keys_ask_once_however_long_they_are_held) {
+  const QPoint second = view.visualRect(item(2)).center();
+  click(2);
+  QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, second);
+  QTest::mouseDClick(view.viewport(), Qt::RightButton, {}, second);
+  EXPECT_EQ(clicks, std::vector<int>{2});
+  EXPECT_EQ(asked, "e");
+  QTest::keyClick(&view, Qt::Key_F2);
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "192.0.2.2:2302");
+  QTest::keyPress(&view, Qt::Key_Delete);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, {}, true);
+  QApplication::sendEvent(&view, &held);
+  EXPECT_EQ(asked, "eer");
+  QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "192.0.2.2:2302");
+}
+
+TEST_F(FavesListTest, the_keys_go_on_where_the_selected_item_was_when_it_is_gone) {
+  list.select(2);
+  for (const int next : {2, 1}) {  // The third has moved up; then there is none behind the gap.
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_EQ(highlighted(), 0);
+    EXPECT_EQ(list.selected(), 0);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(list.selected(), next);
+    EXPECT_EQ(highlighted(), next);
+  }
+  QTest::keyClick(&view, Qt::Key_Delete);
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_EQ(list.selected(), 0);
+}
+
+TEST_F(FavesListTest, letters_typed_select_the_next_item_whose_name_begins_so_also_with_a_blank_in_it) {
+  list.add({"", "", "192.0.2.4:2302", "Two"});
+  list.add({"", "", "192.0.2.5:2302", "two more"});
+  QTest::keyClicks(&view, "two m");
+  EXPECT_EQ(list.selected(), 5);
+  EXPECT_EQ(highlighted(), 5);
+  EXPECT_TRUE(clicks.empty());
 }
 
 TEST_F(FavesListTest, two_thousand_items_come_up_in_one_go) {
