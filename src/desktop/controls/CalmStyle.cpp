@@ -15,6 +15,7 @@ constexpr int controlHeight = 24;  // of buttons and boxes
 constexpr int textMargin = 11;     // on either side of a button's text
 constexpr int cellMargin = 4;      // on either side of a text in a list
 constexpr int tickSide = 14;       // of the square of a check box
+constexpr int menuMargin = 3;      // above the first entry of a menu and below the last
 constexpr qreal menuEdge = 0.3;    // share of the text's colour in a menu's outline and separators
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag) {
@@ -217,7 +218,10 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ScrollBarExtent:
       return 13;
     case PM_DefaultFrameWidth:
+    case PM_MenuPanelWidth:
       return 1;
+    case PM_MenuVMargin:
+      return menuMargin;
     case PM_HeaderMargin:
     case PM_FocusFrameHMargin:
       return cellMargin;
