@@ -21,15 +21,17 @@ Favorites::Favorites(const FavoritesContext& context)
     ClearFaveEditor();
     ShowFave();
   }));
-  for (TextBox* const box : {&window_.txtServerName, &window_.txtIP2, &window_.txtPort2, &window_.txtPass}) {
-    enableClearing(*box);
+  for (TextBox* const box :
+       {&window_.txtID, &window_.txtServerName, &window_.txtIP2, &window_.txtPort2, &window_.txtPass}) {
+    enableClearing(box->text, "");
   }
+  enableClearing(window_.cmbGameType.text, unknownGameType);
 }
 
 // Clearing disables its own button. It is there again as soon as there is something to clear.
-void Favorites::enableClearing(TextBox& box) {
-  connections_.push_back(box.text.changed.connect([this, &box] {
-    if (!box.text.get().empty()) {
+void Favorites::enableClearing(Field<std::string>& text, const std::string& nothing) {
+  connections_.push_back(text.changed.connect([this, &text, nothing] {
+    if (text.get() != nothing) {
       window_.cmdMenu[command::clearFaveEditor].enabled.set(true);
     }
   }));
@@ -113,9 +115,17 @@ void Favorites::ShowFave() {
   window_.List1.add("halo://" + item.hostname + "/");
   window_.List1.add("GameType: " + item.gametype);
   window_.List1.add("Stored Password: " + item.password);
-  window_.txtIP.text.set(item.hostname);
+  makeCurrentServer(item.hostname);
   window_.txtID.text.set(std::to_string(list_.selected()));
   window_.cmdMenu[command::updateFave].enabled.set(true);
+}
+
+// The box of the address splits off the port. Where there is none, that of another server must not stay.
+void Favorites::makeCurrentServer(const std::string& hostname) {
+  if (hostname.find(':') == std::string::npos) {
+    window_.txtPort.text.set("");
+  }
+  window_.txtIP.text.set(hostname);
 }
 
 void Favorites::addCurrent() {
@@ -159,7 +169,7 @@ void Favorites::edit() {
   window_.txtServerName.text.set(item.name);
   window_.txtPass.text.set(item.password);
   window_.txtIP2.text.set(item.hostname);
-  window_.txtIP.text.set(item.hostname);
+  makeCurrentServer(item.hostname);
   window_.txtID.text.set(number);
 }
 
@@ -190,15 +200,24 @@ void Favorites::writeUpdate() {
   c_.storeFiles.UpdateFave(file());
 }
 
+// The later favorites move up, and so does the number of the one in the editor.
 void Favorites::remove() {
   if (list_.selected() <= 0) {
     throw Failure{failures::subscriptOutOfRange().number, "No favorite is selected."};
   }
-  list_.remove(list_.selected());
+  const int removed = list_.selected();
+  list_.remove(removed);
+  stopSilently([&] {
+    const int edited = toInteger16(window_.txtID.text.get());
+    if (edited >= removed) {
+      window_.txtID.text.set(edited == removed ? std::string() : std::to_string(edited - 1));
+    }
+  });
 }
 
+// A dialog that was cancelled leaves the picture that is kept.
 void Favorites::choosePicture() {
-  const std::string& present = list_.picture.get();
+  const std::string present = list_.picture.get();
   FileQuestion question;
   question.title = "Load Background Picture";
   question.filter = "All Suported Types|*.bmp; *.jpg; *.jpeg; *.gif";
@@ -207,6 +226,9 @@ void Favorites::choosePicture() {
   std::optional<std::string> path;
   step([&] { path = c_.dialogs.askFile(question); });
   if (path) {
+    if (*path == present) {  // What the file holds may be another picture now.
+      list_.picture.changed.fire();
+    }
     list_.picture.set(*path);
     step([&] { storePicture(*path); });
   }

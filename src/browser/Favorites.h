@@ -45,9 +45,10 @@ class Favorites {
   void choosePicture();
   void storePicture(const std::string& path);
   void writeUpdate();
+  void makeCurrentServer(const std::string& hostname);
   void requireSelected(const std::string& text, const std::string& title) const;
   void stopUnless(bool condition, const std::string& text, const std::string& title) const;
-  void enableClearing(TextBox& box);
+  void enableClearing(Field<std::string>& text, const std::string& nothing);
   void clearBehind(const Commands::Step& wait);
   std::vector<std::string> editorTexts() const;
   std::string editedHostname() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "core/Text.h"
 
@@ -38,6 +39,7 @@ std::size_t eraseRefused(std::string& text, std::string_view characters) {
 
 InputBoxes::InputBoxes(frmMain& window, Commands& commands, Notices& notices, Loop& loop)
     : commands_(commands), notices_(notices), loop_(loop) {
+  connections_.push_back(window.txtIP.keyPress.connect([this](KeyPress& key) { colonTyped_ = key.code == ':'; }));
   splitAddress(window.txtIP, window.txtPort);
   splitAddress(window.txtIP2, window.txtPort2);
   runOnEnter(window.txtIP, command::queryServer);
@@ -56,12 +58,13 @@ InputBoxes::InputBoxes(frmMain& window, Commands& commands, Notices& notices, Lo
 
 // "ip:port" in the box of the address fills both boxes; what stands behind a second ":" is dropped.
 void InputBoxes::splitAddress(TextBox& address, TextBox& port) {
-  connections_.push_back(address.text.changed.connect([&address, &port] {
+  connections_.push_back(address.text.changed.connect([this, &address, &port] {
+    const bool typed = std::exchange(colonTyped_, false);
     const std::vector<std::string> parts = split(address.text.get(), ':');
     if (parts.size() > 1) {
       address.text.set(parts[0]);
       port.text.set(parts[1]);
-      if (parts[1].empty()) {
+      if (typed && parts[1].empty()) {
         port.typingGoesOn.fire();
       }
     }

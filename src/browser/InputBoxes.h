@@ -26,6 +26,7 @@ class InputBoxes {
   Notices& notices_;
   Loop& loop_;
   std::set<const TextBox*> refusing_;  // a balloon of theirs is up: further wrong keys need no second one
+  bool colonTyped_ = false;            // what stands behind the address is about to be typed
   std::vector<Connection> connections_;
 };
 

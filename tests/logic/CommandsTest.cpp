@@ -193,6 +193,10 @@ TEST(InputBoxes, who_types_the_colon_goes_on_in_the_box_of_the_port) {
   world.mainWindow.txtIP.text.set("192.0.2.1:2302");
   EXPECT_EQ(asked, 0);
   world.mainWindow.txtIP.text.set("192.0.2.1:");
+  EXPECT_EQ(asked, 0) << "a favorite without a port was picked";
+  KeyPress colon{':'};
+  world.mainWindow.txtIP.keyPress.fire(colon);
+  world.mainWindow.txtIP.text.set("192.0.2.1:");
   EXPECT_EQ(asked, 1);
 }
 

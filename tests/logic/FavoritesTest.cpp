@@ -120,7 +120,7 @@ TEST_F(FavoritesTest, a_click_shows_the_favorite_and_makes_it_the_current_server
   fillEditor("Typed", "192.0.2.7", "1", "Race", "x");
   EXPECT_EQ(editor(), "|Typed|192.0.2.7|1|Race|x|UC");
   click(1);
-  EXPECT_EQ(editor(), "1||||Undefined||U");
+  EXPECT_EQ(editor(), "1||||Undefined||UC");
   EXPECT_EQ(lines(), "Mine\nhalo://192.0.2.1:2302/\nGameType: CTF\nStored Password: pw\n");
   EXPECT_EQ(current(), "192.0.2.1:2302");
 }
@@ -229,6 +229,33 @@ TEST_F(FavoritesTest, a_change_in_the_middle_of_a_deletion_hits_no_other_favorit
                         section(2, "3rd", "192.0.2.3:2302", "CTF", "pw"));
 }
 
+TEST_F(FavoritesTest, what_is_typed_in_the_middle_of_a_deletion_stays_with_the_favorite_that_it_belongs_to) {
+  for (const int edited : {1, 2, 3}) {
+    for (const char* name : {"First", "Second", "Third"}) {
+      add(name, "192.0.2.1");
+    }
+    list.select(edited);
+    commands.clickIt(28);
+    loop.startTimer(10, TimerKind::once, [this] { mainWindow.txtServerName.text.set("Typed"); });
+    list.select(2);
+    commands.clickIt(34);
+    EXPECT_EQ(mainWindow.txtServerName.text.get(), "Typed");
+    EXPECT_EQ(mainWindow.txtID.text.get(), edited == 1 ? "1" : edited == 2 ? "" : "2");
+    list.clear();
+    rewrites.saveFaves(path("favorites.ini"));
+  }
+}
+
+TEST_F(FavoritesTest, a_favorite_without_a_port_does_not_get_that_of_another_server) {
+  list.add({"", "", "192.0.2.9", ""});
+  for (const int command : {0, 28}) {
+    mainWindow.txtIP.text.set("192.0.2.1:2302");
+    command == 0 ? click(1) : commands.clickIt(command);
+    EXPECT_EQ(current(), "192.0.2.9:");
+  }
+  EXPECT_EQ(editor(), "1||192.0.2.9||Undefined||UC");
+}
+
 TEST_F(FavoritesTest, a_picture_is_shown_and_kept_until_it_is_taken_away) {
   const auto stored = [this] {
     loop.wait(0);
@@ -246,6 +273,11 @@ TEST_F(FavoritesTest, a_picture_is_shown_and_kept_until_it_is_taken_away) {
   commands.clickIt(27);
   EXPECT_EQ(stored(), settingsHead + "/pictures/two.gif\r\n") << "cancelled";
   EXPECT_EQ(dialogs.asked.back(), "All Suported Types|*.bmp; *.jpg; *.jpeg; *.gif");
+  int loads = 0;
+  const Connection watch = list.picture.changed.connect([&loads] { ++loads; });
+  dialogs.answers = {"/pictures/two.gif"};
+  commands.clickIt(27);
+  EXPECT_EQ(loads, 1) << "the file may hold another picture now";
   commands.clickIt(36);
   EXPECT_EQ(list.picture.get(), "");
   EXPECT_EQ(stored(), settingsHead + "\r\n");

@@ -38,6 +38,24 @@ int pixels(float twips) {
   return static_cast<int>(std::lround(twips / twipsPerPixel));
 }
 
+// A button that goes off while it has the focus hands it to the window: the toolkit would give it to the next button,
+// and a key that is pressed twice would press that one too. It comes back with the button, unless the user has gone on.
+void showEnabled(QWidget& button, bool enabled) {
+  constexpr const char* lent = "focusLent";
+  QWidget* const window = button.window();
+  if (!enabled && button.hasFocus()) {
+    button.setProperty(lent, true);
+    window->setFocus(Qt::OtherFocusReason);
+  }
+  button.setEnabled(enabled);
+  if (enabled && button.property(lent).toBool()) {
+    button.setProperty(lent, false);
+    if (window->hasFocus()) {
+      button.setFocus(Qt::OtherFocusReason);
+    }
+  }
+}
+
 }  // namespace
 
 void Bindings::bindLabel(QLabel& widget, Label& model, char mnemonic) {
@@ -150,7 +168,7 @@ void Bindings::bindCommand(QAbstractButton& widget, frmMain& window, Commands& c
       widget.setAccessibleName(fromCp1252(text).simplified());
     }
   });
-  follow(model.enabled, [&widget](bool enabled) { widget.setEnabled(enabled); });
+  follow(model.enabled, [&widget](bool enabled) { showEnabled(widget, enabled); });
   bindVisible(widget, model.visible);
   follow(model.value, [&widget](int value) { widget.setChecked(value != 0); });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&widget, &model, &commands, number] {

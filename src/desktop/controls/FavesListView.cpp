@@ -40,6 +40,12 @@ FavesListView::FavesListView(FavoritesList& list, const char* name, const QStrin
   // While the items change, the toolkit moves the current row about by itself; this has to hear of it first.
   connect(items_, &FavesListModel::rowsAboutToBeRemoved, this, [this] { followsList_ = true; });
   setModel(items_);
+  // Who adds an item wants to see it; a list that is filled stays at its top.
+  connect(items_, &FavesListModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
+    if (first > 0 && first == last) {
+      scrollTo(items_->index(last));
+    }
+  });
   connect(items_, &FavesListModel::upToDate, this, &FavesListView::showSelection);
   connect(picture_, &FavesPicture::changed, viewport(), QOverload<>::of(&QWidget::update));
   connect(this, &QListView::clicked, this, &FavesListView::tellClick);

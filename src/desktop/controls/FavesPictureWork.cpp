@@ -1,13 +1,11 @@
 #include "desktop/controls/FavesPictureWork.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
+#include <QtEndian>
 #include <algorithm>
 
 namespace vantrel {
@@ -17,7 +15,14 @@ constexpr qint64 largestFile = 256 << 20;  // bytes
 constexpr qint64 mostPixels = 64'000'000;  // before it is made smaller
 constexpr int longestSide = 32'767;        // pixels
 constexpr int longestReading = 10'000;     // milliseconds
-constexpr int noDescriptor = -1;
+
+// Of a bitmap's head: its length in bytes, where some of its numbers stand, and two kinds of compression.
+constexpr int bitmapHead = 34;
+constexpr int pixelsAt = 10;
+constexpr int bitsPerPixelAt = 28;
+constexpr int compressionAt = 30;
+constexpr qint64 unpacked = 0;
+constexpr qint64 unpackedWithMasks = 3;
 
 // A file that ends early when it is told to: whoever decodes it comes to an end soon after.
 class StoppableFile : public QFile {
@@ -36,18 +41,9 @@ class StoppableFile : public QFile {
 
 // What is no plain file may keep its readers waiting for ever.
 bool openPlainFile(QFile& file, const std::string& path) {
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  if (descriptor == noDescriptor) {
-    return false;
-  }
-  struct stat about {};
-  const bool isFit =
-      ::fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode) && about.st_size > 0 && about.st_size <= largestFile;
-  if (isFit && file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-    return true;
-  }
-  ::close(descriptor);
-  return false;
+  file.setFileName(QFile::decodeName(QByteArray::fromStdString(path)));
+  const QFileInfo about(file.fileName());
+  return about.isFile() && about.size() > 0 && about.size() <= largestFile && file.open(QIODevice::ReadOnly);
 }
 
 bool isWanted(const QImageReader& reader) {
@@ -55,6 +51,17 @@ bool isWanted(const QImageReader& reader) {
   const QSize size = reader.size();
   return (format == "bmp" || format == "jpeg" || format == "jpg" || format == "gif") && !size.isEmpty() &&
          std::max(size.width(), size.height()) <= longestSide && qint64{size.width()} * size.height() <= mostPixels;
+}
+
+// The decoder shows whatever stood in the memory of the rows that a bitmap lacks. One that is packed is taken as it is.
+bool lacksRows(const QByteArray& head, qint64 fileSize, const QSize& size) {
+  const auto number = [&head](int at) { return qint64{qFromLittleEndian<quint32>(head.constData() + at)}; };
+  if (head.size() < bitmapHead || (number(compressionAt) != unpacked && number(compressionAt) != unpackedWithMasks)) {
+    return false;
+  }
+  const qint64 bitsPerPixel = number(bitsPerPixelAt) & 0xFFFF;
+  const qint64 bytesPerRow = (size.width() * bitsPerPixel + 31) / 32 * 4;
+  return fileSize < number(pixelsAt) + bytesPerRow * size.height();
 }
 
 // The least size of that shape which covers `most`, or its own size when it is smaller.
@@ -80,10 +87,11 @@ QImage readPicture(const std::string& path, const QSize& most, const std::functi
   if (!openPlainFile(file, path)) {
     return {};
   }
+  const QByteArray head = file.peek(bitmapHead);
   QImageReader reader(&file);
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
-  if (!isWanted(reader)) {
+  if (!isWanted(reader) || (reader.format() == "bmp" && lacksRows(head, file.size(), reader.size()))) {
     return {};
   }
   const QSize lying = asItLies(most, reader);

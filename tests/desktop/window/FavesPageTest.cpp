@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QListWidget>
 #include <QTest>
 #include <string>
@@ -52,6 +53,24 @@ TEST_F(FavesPageTest, keys_and_double_clicks_on_the_list_run_the_commands_of_its
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
   }
   EXPECT_EQ(run, "dee");
+}
+
+TEST_F(FavesPageTest, a_button_that_goes_off_under_a_key_keeps_the_second_press_from_the_next_button) {
+  std::string run;
+  auto* const add = editor.findChild<QWidget*>("cmdMenu24");
+  commands.add(command::addFave, [&] {
+    run += 'a';
+    model.cmdMenu[command::addFave].enabled.set(false);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    model.cmdMenu[command::addFave].enabled.set(true);
+  });
+  commands.add(command::updateFave, [&run] { run += 'u'; });
+  parent.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&parent));
+  add->setFocus();
+  QTest::keyClick(add, Qt::Key_Space);
+  EXPECT_EQ(run, "a");
+  EXPECT_TRUE(add->hasFocus());
 }
 
 TEST_F(FavesPageTest, texts_without_end_leave_the_editor_as_it_is) {

@@ -99,12 +99,16 @@ TEST_F(FavesPictureTest, three_kinds_of_file_are_pictures_whatever_their_names_a
 TEST_F(FavesPictureTest, no_other_file_is_one_and_none_holds_its_reader_up) {
   QByteArray huge = QByteArray::fromHex("424d000000000000000036000000280000000000010000000100010018000000");
   huge.resize(64);
+  QFile whole(QString::fromStdString(saved(Qt::red, "whole.bmp")));
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+  const QByteArray cut = whole.read(whole.size() - 1);
   ASSERT_EQ(::mkfifo(path("pipe.jpg").c_str(), 0600), 0);
   const std::string refused[] = {saved(Qt::red, "p.jpg", "png"),
                                  written("no picture", "text.bmp"),
                                  written(gif.left(15), "half.gif"),
                                  written(huge, "huge.bmp"),
                                  written("", "empty.gif"),
+                                 written(cut, "cut.bmp"),
                                  path("pipe.jpg"),
                                  path("."),
                                  path("gone.jpg"),
