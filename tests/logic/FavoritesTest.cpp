@@ -67,11 +67,12 @@ TEST_F(FavoritesTest, add_takes_the_editor_into_list_and_file_and_a_double_press
   EXPECT_EQ(loop.tickCount() - before, 100u);
   EXPECT_TRUE(mainWindow.cmdMenu[24].enabled.get());
   EXPECT_EQ(editor(), cleared);
-  add("", "192.0.2.1", "My Mod");
+  fillEditor(" Mine ", "192.0.2.1", "2302", "My Mod", " =secret ");
+  commands.clickIt(24);
   EXPECT_EQ(file(), head + "2\r\n" + section(1, "192.0.2.1:2302", "192.0.2.1:2302", "Undefined", "") +
-                        section(2, "192.0.2.1:2302", "192.0.2.1:2302", "My Mod", "pw"));
+                        section(2, " Mine ", "192.0.2.1:2302", "My Mod", " =secret "));
   ASSERT_EQ(list.count(), 2) << "the editor may add a favorite twice";
-  EXPECT_EQ(list.at(2), (FavoriteItem{"My Mod", "pw", "192.0.2.1:2302", "192.0.2.1:2302"}));
+  EXPECT_EQ(list.at(2), (FavoriteItem{"My Mod", " =secret ", "192.0.2.1:2302", " Mine "}));
   EXPECT_EQ(notices.told(), "");
 }
 

@@ -25,27 +25,6 @@ struct StoresTest : testing::Test, World {
   }
 };
 
-TEST_F(StoresTest, the_current_server_and_the_edited_one_become_favorites_and_an_update_leaves_the_count) {
-  mainWindow.txtIP.text.set("198.51.100.7");
-  mainWindow.txtPort.text.set("2303");
-  mainWindow.txtServerName.text.set(" Mine ");
-  mainWindow.txtIP2.text.set("192.0.2.9");
-  mainWindow.txtPort2.text.set("1");
-  mainWindow.cmbGameType.text.set("CTF");
-  mainWindow.txtPass.text.set(" =secret ");
-  stores.NewFaves(favoritesFile);
-  stores.AddFaveEdited(favoritesFile);
-  stores.AddFaveCurrent(favoritesFile);
-  mainWindow.txtID.text.set("1");
-  mainWindow.cmbGameType.text.set("Race");
-  stores.UpdateFave(favoritesFile);
-  EXPECT_EQ(written("favorites.ini"),
-            header +
-                "[FAVECOUNT]\r\nFavorites=2\r\n"
-                "[1]\r\nname= Mine \r\nhostname=192.0.2.9:1\r\ngametype=Race\r\npassword= =secret \r\n"
-                "[2]\r\nname=198.51.100.7:2303\r\nhostname=198.51.100.7:2303\r\ngametype=Undefined\r\npassword=\r\n");
-}
-
 TEST_F(StoresTest, new_buddies_mirrors_and_settings_have_these_bytes) {
   stores.NewBuddies(buddiesFile);
   stores.AddBuddy("Player", "");
