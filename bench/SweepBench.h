@@ -20,6 +20,7 @@ void startAtOnce(Program& program);
 int coldStart(int argc, char** argv);
 
 void benchStart(Report& report);
+void benchDetail(Report& report);
 void benchSweeps(Report& report);
 void benchFlood(Report& report);
 

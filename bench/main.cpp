@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
   vantrel::applyTheme(application);
   vantrel::bench::Report report;
   vantrel::bench::benchStart(report);
+  vantrel::bench::benchDetail(report);
   vantrel::bench::benchFlood(report);
   vantrel::bench::benchSweeps(report);
   return report.allReached() ? 0 : 1;

@@ -20,6 +20,7 @@
 #include "core/modFavesIni.h"
 #include "desktop/adapters/DiskFiles.h"
 #include "desktop/adapters/LockFile.h"
+#include "desktop/adapters/PosixIcmp.h"
 #include "desktop/adapters/PosixTcpSocket.h"
 #include "desktop/adapters/PosixUdpSocket.h"
 #include "desktop/adapters/QtDialogs.h"
@@ -31,9 +32,13 @@
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/SplashWindow.h"
 #include "join/AutoSwitches.h"
+#include "maps/MapCheck.h"
+#include "query/DetailQuery.h"
 #include "query/DetailView.h"
 #include "query/MasterExchange.h"
+#include "query/PlayerList.h"
 #include "query/Sweep.h"
+#include "query/modPingList.h"
 
 namespace vantrel {
 
@@ -71,6 +76,8 @@ class Program {
   LockFile lock_;
   PosixTcpSocket ws1_{loop_.nesting()};
   PosixUdpSocket ws2_{loop_.nesting()};
+  PosixUdpSocket wsHaloData_{loop_.nesting()};
+  PosixIcmp icmp_{loop_};
   AppFolder folder_;
   frmMain frmMain_;
   frmSplash frmSplash_;
@@ -93,6 +100,10 @@ class Program {
   WindowLayout layout_;
   DetailView detailView_;
   SweepProgress progress_;
+  MapCheck mapCheck_;
+  modPingList modPingList_;
+  DetailQuery detailQuery_;
+  PlayerList playerList_;
   Sweep sweep_;
   MasterExchange exchange_;
   StartAndEnd startAndEnd_;

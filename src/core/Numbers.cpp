@@ -23,6 +23,16 @@ std::size_t countDigits(std::string_view text) {
   return count;
 }
 
+// A half goes to the even neighbour.
+template <class Whole>
+Whole toWhole(double number) {
+  const double whole = std::nearbyint(number);
+  if (!(whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max())) {
+    throw failures::overflow();
+  }
+  return static_cast<Whole>(whole);
+}
+
 }  // namespace
 
 bool isNumeric(std::string_view text) {
@@ -58,15 +68,19 @@ double toNumber(std::string_view text) {
 }
 
 std::int16_t toInteger16(double number) {
-  const double whole = std::nearbyint(number);
-  if (!(whole >= std::numeric_limits<std::int16_t>::min() && whole <= std::numeric_limits<std::int16_t>::max())) {
-    throw failures::overflow();
-  }
-  return static_cast<std::int16_t>(whole);
+  return toWhole<std::int16_t>(number);
 }
 
 std::int16_t toInteger16(std::string_view text) {
   return toInteger16(toNumber(text));
+}
+
+std::int32_t toInteger32(std::string_view text) {
+  return toWhole<std::int32_t>(toNumber(text));
+}
+
+int toPort(std::string_view text) {
+  return toWhole<std::uint16_t>(toNumber(text));
 }
 
 }  // namespace vantrel

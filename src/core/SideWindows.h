@@ -7,6 +7,7 @@
 namespace vantrel {
 
 struct frmBuddies {
+  Field<bool> visible{false};
   FavoritesList myFaves1;  // a buddy's name in `name`, the server where he was last seen in `hostname`
 };
 
@@ -18,6 +19,7 @@ struct frmPlayers {
 };
 
 struct frmMirror {
+  Label lblMap;        // the map that is wanted, without ".map"; empty for none
   ListBox lstMirrors;  // base addresses of the map mirrors
 };
 

@@ -13,6 +13,8 @@ constexpr int refreshInterval = 5000;  // milliseconds
 constexpr float designWidth = 10065;
 constexpr float designHeight = 8295;
 
+constexpr int playersScore = 2;  // the column that the players are sorted by first
+
 using Caption = std::pair<int, const char*>;
 
 constexpr Caption buttonCaptions[] = {
@@ -123,6 +125,7 @@ frmMain::frmMain(Loop& loop)
   for (TextBox* const total : {&txtPlayers, &txtCTF, &txtSlayer, &txtOther}) {
     total->text.set("0");
   }
+  ListView2.sort.set({.column = playersScore});
   lblData.caption.set("Vantrel CE");
   lblText2[0].visible.set(false);
   mircChan.enabled.set(false);

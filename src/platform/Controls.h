@@ -38,6 +38,8 @@ struct KeyPress {
   void swallow() { code = 0; }
 };
 
+enum class MouseButton { left, right, middle };
+
 struct TextBox {
   Field<std::string> text;
   Field<bool> enabled{true};

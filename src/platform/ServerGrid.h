@@ -14,7 +14,6 @@
 namespace vantrel {
 
 enum class Alignment { left, center, right };
-enum class MouseButton { left, right, middle };
 
 struct GridColumn {
   std::string key;

@@ -28,6 +28,10 @@ void DetailView::ResetDetail() {
   window_.title.set("Zorbel's Vantrel CE - Version " + version_.text());
 }
 
+void DetailView::showTitle(const std::string& server) const {
+  window_.title.set(" [ " + server + "] Zorbel's Vantrel - Version " + version_.text());
+}
+
 void DetailView::clearListsAndName() {
   for (ListView* const list :
        {&window_.ListView1, &window_.ListView2, &window_.ListView3, &window_.ListView4, &window_.ListView5}) {

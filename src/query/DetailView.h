@@ -1,6 +1,8 @@
 // The view of the one server on show: its lists, its labels and the window's title.
 #pragma once
 
+#include <string>
+
 #include "core/Commands.h"
 #include "core/Version.h"
 #include "core/frmMain.h"
@@ -17,6 +19,8 @@ class DetailView {
   void ClearDetail();
   // Empties all of it.
   void ResetDetail();
+  // Names a server in the window's title; `server`: its name and how many play there.
+  void showTitle(const std::string& server) const;
 
  private:
   void clearListsAndName();

@@ -1,4 +1,4 @@
-// How far a sweep has come, for the eye alone: nothing depends on it.
+// How far a sweep has come: for the eye, and for what would hold it up.
 #pragma once
 
 #include <string>

@@ -111,8 +111,6 @@ TEST_F(SweepTest, each_reply_goes_to_the_server_cache_as_it_is_shown_and_older_s
 }
 
 TEST_F(SweepTest, pings_come_eleven_seconds_after_the_first_reply_and_an_open_search_window_is_told_the_number) {
-  std::string ticks;
-  const Connection watch = mainWindow.tmrPing.tick.connect([&] { ticks += std::to_string(loop.tickCount()) + " "; });
   replyAndWait(statusReply("Fun"));
   EXPECT_EQ(players.lblStatus.caption.get(), "");
   players.visible.set(true);
@@ -120,7 +118,7 @@ TEST_F(SweepTest, pings_come_eleven_seconds_after_the_first_reply_and_an_open_se
   replyAndWait(statusReply("Second"));
   EXPECT_EQ(players.lblStatus.caption.get(), "2 servers queried.");
   loop.wait(8000);
-  EXPECT_EQ(ticks, "11010 ");
+  EXPECT_EQ(network.log.front(), "11010 icmp open");
 }
 
 TEST_F(SweepTest, each_player_is_told_with_his_server) {

@@ -14,10 +14,14 @@
 #include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
 #include "join/AutoSwitches.h"
+#include "maps/MapCheck.h"
+#include "query/DetailQuery.h"
 #include "query/DetailView.h"
 #include "query/MasterExchange.h"
+#include "query/PlayerList.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFiles.h"
+#include "support/FakeIcmp.h"
 #include "support/FakeNetwork.h"
 #include "support/FakeRegistry.h"
 
@@ -138,6 +142,14 @@ struct World {
   AutoSwitches switches{mainWindow, commands, settings};
   WindowLayout layout{mainWindow};
   DetailView detail{mainWindow, commands, version};
+  FakeUdpSocket wsHaloData{network};
+  FakeIcmp icmp{network};
+  MapCheck maps{mainWindow, mirror, files};
+  modPingList ping{mainWindow, icmp, loop, notices, progress};
+  DetailQuery query{{wsHaloData, loop, mainWindow, commands, notices, detail, ping,
+                     [this](const std::string& someTab) { pages.showTab(someTab); },
+                     [this](const std::string& mapFile) { maps.checkMap(mapFile); }}};
+  PlayerList playerList{context, stores, menu};
   frmSplash splash{loop};
   StartContext startContext{context, stores, rewrites, settings, splash, lock, version};
 };

@@ -4,7 +4,10 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <algorithm>
+
+#include "desktop/grid/MouseButtons.h"
 
 namespace vantrel {
 namespace {
@@ -15,7 +18,7 @@ constexpr int leastHeaderHeight = 21;  // likewise
 }  // namespace
 
 ListTable::ListTable(ListView& list, const char* name, const QString& accessibleName, QWidget* parent)
-    : QTableView(parent), model_(new ListTableModel(list, this)) {
+    : QTableView(parent), list_(list), model_(new ListTableModel(list, this)) {
   setObjectName(name);
   setAccessibleName(accessibleName);
   setShowGrid(false);
@@ -50,6 +53,49 @@ void ListTable::applyColumns(const ListView& list) {
   }
 }
 
+void ListTable::offerSorting() {
+  horizontalHeader()->setSectionsClickable(true);
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+          [this](int section) { list_.columnClicked.fire(section + 1); });
+  bindings_.keep(list_.sort.changed.connect([this] { showSorting(); }));
+  showSorting();
+}
+
+void ListTable::showSorting() {
+  const ListSort sort = list_.sort.get();
+  horizontalHeader()->setSortIndicatorShown(sort.on);
+  horizontalHeader()->setSortIndicator(sort.column - 1,
+                                       sort.order == SortOrder::ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void ListTable::tellSelection() {
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  list_.select(rows.isEmpty()
+                   ? 0
+                   : model_->rowAt(rows.contains(currentIndex().siblingAtColumn(0)) ? currentIndex() : rows.first()));
+}
+
+// What the user means are the rows as they are now. A listener may run other events, so nothing of the table is looked
+// at behind it.
+void ListTable::mousePressEvent(QMouseEvent* event) {
+  model_->showChanges();
+  QTableView::mousePressEvent(event);
+  tellSelection();
+  if (const auto button = toMouseButton(event->button())) {
+    list_.mouseButton.fire(*button);
+  }
+}
+
+// Of a right click the press has told already.
+void ListTable::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    model_->showChanges();
+    tellSelection();
+    list_.mouseButton.fire(MouseButton::right);
+  }
+}
+
 QString ListTable::selectedText() const {
   QModelIndexList rows = selectionModel()->selectedRows();
   std::sort(rows.begin(), rows.end());
@@ -57,7 +103,7 @@ QString ListTable::selectedText() const {
   for (const QModelIndex& row : rows) {
     QStringList cells;
     for (int column = 0; column < model_->columnCount(); ++column) {
-      cells << row.siblingAtColumn(column).data().toString();
+      cells << row.siblingAtColumn(column).data(Qt::EditRole).toString();
     }
     lines << cells.join(QLatin1Char('\t'));
   }

@@ -17,15 +17,23 @@ class ListTable : public QTableView {
 
   ListTableModel& shownRows() { return *model_; }
 
+  // Tells the list of clicks on its headers, and shows by which of them it is sorted.
+  void offerSorting();
+
   // The selected rows from top to bottom, a tab between the cells.
   QString selectedText() const;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void applyColumns(const ListView& list);
+  void tellSelection();
+  void showSorting();
 
+  ListView& list_;
   ListTableModel* model_;
   Bindings bindings_;
 };

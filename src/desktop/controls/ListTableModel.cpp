@@ -9,7 +9,8 @@
 namespace vantrel {
 namespace {
 
-constexpr int batchInterval = 30;  // milliseconds
+constexpr int batchInterval = 30;         // milliseconds
+constexpr qsizetype longestShown = 1000;  // characters; more never fit
 
 }  // namespace
 
@@ -20,10 +21,12 @@ ListTableModel::ListTableModel(ListView& list, QObject* parent) : QAbstractTable
   showChanges();
   connections_.push_back(list.rowAdded.connect([this] { noteChange(list_.rowCount()); }));
   connections_.push_back(list.cellChanged.connect([this](int row, int) { noteChange(row); }));
-  connections_.push_back(list.cleared.connect([this] {
+  const auto replaceAll = [this] {
     refilled_ = true;
     noteChange(1);
-  }));
+  };
+  connections_.push_back(list.cleared.connect(replaceAll));
+  connections_.push_back(list.sort.changed.connect(replaceAll));
 }
 
 void ListTableModel::noteChange(int firstRow) {
@@ -38,9 +41,13 @@ void ListTableModel::showChanges() {
   const bool refilled = std::exchange(refilled_, false);
   const int shownBefore = rowCount();
   resizeTo(list_.rowCount());
+  order_ = list_.rowsInOrder();
+  if (list_.sort.get().on) {  // One row may have moved all others.
+    firstChanged_ = 1;
+  }
   for (int row = firstChanged_; row <= rowCount(); ++row) {
     Row& shown = rows_[static_cast<std::size_t>(row - 1)];
-    Row fresh = read(row);
+    Row fresh = read(order_[static_cast<std::size_t>(row - 1)]);
     const bool replaced = refilled && row <= shownBefore && fresh.front() != shown.front();
     shown = std::move(fresh);
     if (replaced) {
@@ -73,6 +80,11 @@ ListTableModel::Row ListTableModel::read(int row) const {
   return texts;
 }
 
+int ListTableModel::rowAt(const QModelIndex& index) const {
+  const auto position = static_cast<std::size_t>(index.row());
+  return index.isValid() && position < order_.size() ? order_[position] : 0;
+}
+
 int ListTableModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
@@ -88,6 +100,8 @@ QVariant ListTableModel::data(const QModelIndex& index, int role) const {
   const QString& text = rows_[static_cast<std::size_t>(index.row())][static_cast<std::size_t>(index.column())];
   switch (role) {
     case Qt::DisplayRole:
+      return text.size() > longestShown ? text.left(longestShown) : text;
+    case Qt::EditRole:
     case Qt::AccessibleTextRole:
       return text;
     case Qt::ToolTipRole:

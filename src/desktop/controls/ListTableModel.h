@@ -1,5 +1,5 @@
-// The rows of one ListView as the toolkit's tables want them. It keeps the texts that are on the screen: a list that is
-// emptied and filled again is shown once, when it is full.
+// The rows of one ListView as the toolkit's tables want them, in the order in which it is sorted. It keeps the texts
+// that are on the screen: a list that is emptied and filled again is shown once, when it is full.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -22,11 +22,14 @@ class ListTableModel : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+  // The row of the list that stands at a position; 0 when there is none.
+  int rowAt(const QModelIndex& index) const;
+
   // Shows at once what has changed; it would else be shown a moment later.
   void showChanges();
 
  Q_SIGNALS:
-  // The list was emptied, and what stands in this row now is about something else.
+  // The list was emptied or sorted anew, and what stands in this row now is about something else.
   void rowReplaced(int row);
 
  private:
@@ -38,7 +41,8 @@ class ListTableModel : public QAbstractTableModel {
 
   ListView& list_;
   std::vector<Row> rows_;
-  int firstChanged_ = 1;  // row number of the first that may differ from what is shown
+  std::vector<int> order_;  // the list's rows from top to bottom
+  int firstChanged_ = 1;    // row number of the first that may differ from what is shown
   bool refilled_ = false;
   QTimer pause_;
   std::vector<Connection> connections_;

@@ -23,6 +23,8 @@ inline constexpr QColor accent{70, 140, 220};
 inline constexpr QColor strong{47, 109, 181};   // behind white text: the main button, what is selected
 inline constexpr QColor focus{169, 205, 245};   // the ring around what has the focus
 inline constexpr QColor lampOn{108, 198, 122};  // an indicator that is on
+inline constexpr QColor redTeam{240, 110, 110};
+inline constexpr QColor blueTeam{110, 165, 250};
 }  // namespace theme
 
 // Gives the application its style, palette and font. There is no style sheet: with one, a widget would no longer take

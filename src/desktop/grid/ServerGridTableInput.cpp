@@ -8,9 +8,9 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <algorithm>
-#include <optional>
 
 #include "core/modSGrid.h"
+#include "desktop/grid/MouseButtons.h"
 #include "desktop/grid/ServerGridTable.h"
 
 namespace vantrel {
@@ -18,19 +18,6 @@ namespace vantrel {
 namespace {
 
 constexpr int arrowWidth = 22;  // of the part of a group row that folds it at one click; texts begin behind it
-
-std::optional<MouseButton> toMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return MouseButton::left;
-    case Qt::RightButton:
-      return MouseButton::right;
-    case Qt::MiddleButton:
-      return MouseButton::middle;
-    default:
-      return std::nullopt;
-  }
-}
 
 }  // namespace
 

@@ -1,8 +1,10 @@
 #include "desktop/pages/DetailPages.h"
 
+#include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
 
+#include "desktop/controls/TeamDelegate.h"
 #include "desktop/controls/Theme.h"
 
 namespace vantrel {
@@ -12,17 +14,28 @@ namespace {
 constexpr QRect titlePlace(40, 114, 340, 24);
 constexpr QPoint buddyPlace(40, 468);
 
+QFont fixedWidthFont(const QWidget& widget) {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setPointSizeF(widget.font().pointSizeF());
+  return font;
+}
+
 }  // namespace
 
 DetailPages::DetailPages(frmMain& window, Commands& commands, QWidget* parent) : window_(window) {
   makeTitle(parent);
   addList(window.ListView4, "ListView4", QObject::tr("Current game"), parent);
-  addList(window.ListView2, "ListView2", QObject::tr("Players"), parent);
-  addList(window.ListView1, "ListView1", QObject::tr("Miscellaneous server information"), parent);
+  ListTable* const players = addList(window.ListView2, "ListView2", QObject::tr("Players"), parent);
+  players->offerSorting();
+  players->setItemDelegate(new TeamDelegate(players->shownRows(), 2, 1, players));
+  ListTable* const raw =
+      addList(window.ListView1, "ListView1", QObject::tr("Miscellaneous server information"), parent);
+  raw->setFont(fixedWidthFont(*raw));
   addList(window.ListView5, "ListView5", QObject::tr("Vehicles"), parent);
   QWidget* const buddies = makeBuddyButton(commands, parent);
   new SummaryPanel(window, commands, parent);
   ListTable* const teams = addList(window.ListView3, "ListView3", QObject::tr("Teams"), parent);
+  teams->setItemDelegate(new TeamDelegate(teams->shownRows(), 0, 1, teams));
   QWidget::setTabOrder(buddies, teams);
 }
 

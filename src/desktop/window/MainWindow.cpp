@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/controls/PlainText.h"
 #include "desktop/pages/AboutPage.h"
 #include "desktop/pages/FaveEditor.h"
 #include "desktop/pages/FavesPage.h"
@@ -19,6 +20,8 @@
 
 namespace vantrel {
 namespace {
+
+constexpr std::size_t longestTitle = 1000;  // characters; more never fit
 
 // In pixels at 100 %, without the frame.
 constexpr QSize designSize(671, 553);
@@ -98,7 +101,11 @@ void MainWindow::noteOuterSize() {
 }
 
 void MainWindow::bindWindow() {
-  const auto showTitle = [this] { setWindowTitle(fromCp1252(model_.title.get())); };
+  // A server's name stands in it: the toolkit takes "[*]" for a mark of its own, and "[*][*]" for that text.
+  const auto showTitle = [this] {
+    const QString title = oneLine(fromCp1252(std::string_view(model_.title.get()).substr(0, longestTitle)));
+    setWindowTitle(QString(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+  };
   showTitle();
   bindings_.keep(model_.title.changed.connect(showTitle));
   applyState();
