@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "desktop/controls/RowDelegate.h"
 #include "desktop/grid/MouseButtons.h"
 
 namespace vantrel {
@@ -32,6 +33,7 @@ ListTable::ListTable(ListView& list, const char* name, const QString& accessible
   setHorizontalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setModel(model_);
+  setItemDelegate(new RowDelegate(this));
   applyColumns(list);
   connect(model_, &ListTableModel::rowReplaced, this, [this](int row) {
     selectionModel()->select(model_->index(row, 0), QItemSelectionModel::Deselect | QItemSelectionModel::Rows);

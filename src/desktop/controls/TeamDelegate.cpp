@@ -20,7 +20,7 @@ QColor teamColor(const QString& team) {
 }  // namespace
 
 TeamDelegate::TeamDelegate(const QAbstractItemModel& rows, int teamColumn, int scoreColumn, QObject* parent)
-    : QStyledItemDelegate(parent), rows_(rows), teamColumn_(teamColumn), scoreColumn_(scoreColumn) {
+    : RowDelegate(parent), rows_(rows), teamColumn_(teamColumn), scoreColumn_(scoreColumn) {
   const auto forget = [this] { highest_.reset(); };
   connect(&rows, &QAbstractItemModel::dataChanged, this, forget);
   connect(&rows, &QAbstractItemModel::rowsInserted, this, forget);
@@ -50,7 +50,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   if (index.column() == 0) {
     shown.rect.setLeft(shown.rect.left() + stripWidth);
   }
-  QStyledItemDelegate::paint(painter, shown, index);
+  RowDelegate::paint(painter, shown, index);
   if (index.column() == 0 && !team.isEmpty()) {
     painter->fillRect(QRect(option.rect.topLeft(), QSize(stripWidth, option.rect.height())), teamColor(team));
   }

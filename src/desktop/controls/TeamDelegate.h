@@ -2,12 +2,13 @@
 // each score a bar as long as its share of the highest one.
 #pragma once
 
-#include <QStyledItemDelegate>
 #include <optional>
+
+#include "desktop/controls/RowDelegate.h"
 
 namespace vantrel {
 
-class TeamDelegate : public QStyledItemDelegate {
+class TeamDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
