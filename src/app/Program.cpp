@@ -24,7 +24,7 @@ Program::Program(Site site, const Version& version, const Places& places)
       modReg_(registry_),
       commands_(frmMain_, notices_),
       gameFolder_(frmMain_, modReg_, dialogs_),
-      settings_(frmMain_, modReg_, commands_, gameFolder_, notices_),
+      settings_(frmMain_, frmMsg_, modReg_, commands_, gameFolder_, notices_),
       pages_(frmMain_, commands_, notices_),
       inputBoxes_(frmMain_, commands_, notices_, loop_),
       favorites_({storeContext_, stores_, rewrites_, commands_, dialogs_}),
@@ -38,20 +38,29 @@ Program::Program(Site site, const Version& version, const Places& places)
                     [this](const std::string& someTab) { pages_.showTab(someTab); },
                     [this](const std::string& mapFile) { mapCheck_.checkMap(mapFile); }}),
       playerList_(storeContext_, stores_, popupMenu_),
+      modMirc_(frmMain_, mirc_, site_, version),
+      gameWatch_(frmMain_, frmBuddies_, processes_, notices_, modMirc_),
+      slotWatch_({frmMain_, frmMsg_, commands_, notices_, sound_, gameWatch_, detailQuery_, autoSwitches_}),
+      gameLaunch_({wsPass_, frmMain_, frmBuddies_, commands_, notices_, files_, processes_, modMirc_, gameWatch_,
+                   [this] { return slotWatch_.holdBack(); }}),
+      tools_({frmMain_, frmBuddies_, commands_, notices_, files_, folder_, processes_}),
       sweep_({ws2_, loop_, frmMain_, frmPlayers_, stores_, folder_, progress_}),
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
       startAndEnd_({storeContext_, stores_, rewrites_, settings_, frmSplash_, lock_, version},
                    {.layoutPanels = [this] { layout_.layoutPanels(); },
                     .loadColors = {},
-                    .LoadTools = {},
+                    .LoadTools = [this] { tools_.LoadTools(); },
                     .prepareFavorites = {},
                     .handOverLink = {}}),
       splashWindow_(frmSplash_),
-      window_(frmMain_, commands_, progress_) {
+      window_(frmMain_, commands_, progress_, frmMsg_),
+      msgWindow_(frmMsg_, &window_) {
   frmMain_.txtFAQ.caption.set(helpText());
   commands_.add(command::getServerList, [this] { exchange_.start(); });
   commands_.add(command::locateGame, [this] { gameFolder_.locate(); });
+  frmMsg_.txtWav.text.set(openSlotSound(places.appDir));
   startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
+  startAndEnd_.addWindow([this] { frmMsg_.visible.set(false); });
   keepColumns();
   connectEnd();
 }

@@ -18,9 +18,12 @@
 #include "core/StartAndEnd.h"
 #include "core/StoreRewrites.h"
 #include "core/modFavesIni.h"
+#include "desktop/adapters/CanberraSound.h"
+#include "desktop/adapters/DbusDde.h"
 #include "desktop/adapters/DiskFiles.h"
 #include "desktop/adapters/LockFile.h"
 #include "desktop/adapters/PosixIcmp.h"
+#include "desktop/adapters/PosixProcesses.h"
 #include "desktop/adapters/PosixTcpSocket.h"
 #include "desktop/adapters/PosixUdpSocket.h"
 #include "desktop/adapters/QtDialogs.h"
@@ -30,8 +33,14 @@
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/MsgWindow.h"
 #include "desktop/window/SplashWindow.h"
 #include "join/AutoSwitches.h"
+#include "join/GameLaunch.h"
+#include "join/GameWatch.h"
+#include "join/SlotWatch.h"
+#include "join/Tools.h"
+#include "join/modMirc.h"
 #include "maps/MapCheck.h"
 #include "query/DetailQuery.h"
 #include "query/DetailView.h"
@@ -77,13 +86,18 @@ class Program {
   PosixTcpSocket ws1_{loop_.nesting()};
   PosixUdpSocket ws2_{loop_.nesting()};
   PosixUdpSocket wsHaloData_{loop_.nesting()};
+  PosixUdpSocket wsPass_{loop_.nesting()};
   PosixIcmp icmp_{loop_};
+  PosixProcesses processes_;
+  DbusDde mirc_;
+  CanberraSound sound_{loop_};
   AppFolder folder_;
   frmMain frmMain_;
   frmSplash frmSplash_;
   frmBuddies frmBuddies_;
   frmPlayers frmPlayers_;
   frmMirror frmMirror_;
+  frmMsg frmMsg_{loop_};
   ProfileFiles profiles_;
   StoreContext storeContext_;
   modFavesIni stores_;
@@ -104,11 +118,17 @@ class Program {
   modPingList modPingList_;
   DetailQuery detailQuery_;
   PlayerList playerList_;
+  modMirc modMirc_;
+  GameWatch gameWatch_;
+  SlotWatch slotWatch_;
+  GameLaunch gameLaunch_;
+  Tools tools_;
   Sweep sweep_;
   MasterExchange exchange_;
   StartAndEnd startAndEnd_;
   SplashWindow splashWindow_;
   MainWindow window_;
+  MsgWindow msgWindow_;
   std::vector<Connection> connections_;
 };
 

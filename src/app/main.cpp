@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
   vantrel::applyTheme(application);
   {
     vantrel::PosixEndSignals endSignals;  // kept to the end, so that a second request does not cut off the last write
-    vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE},
+    vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE, VANTREL_MAKER_SITE},
                              {VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_REVISION},
                              vantrel::findPlaces());
     const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });

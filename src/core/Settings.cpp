@@ -29,8 +29,9 @@ void showSwitch(Picture& picture, std::int16_t value) {
 
 }  // namespace
 
-Settings::Settings(frmMain& window, modReg& registry, Commands& commands, GameFolder& game, Notices& notices)
-    : window_(window), registry_(registry), commands_(commands), game_(game) {
+Settings::Settings(frmMain& window, frmMsg& prompt, modReg& registry, Commands& commands, GameFolder& game,
+                   Notices& notices)
+    : window_(window), prompt_(prompt), registry_(registry), commands_(commands), game_(game) {
   writeOnChange(window.chkOptions[0], "screenshot");
   writeOnChange(window.chkOptions[1], "console");
   writeOnChange(window.chkOptions[2], "nojoystick");
@@ -38,6 +39,7 @@ Settings::Settings(frmMain& window, modReg& registry, Commands& commands, GameFo
   writeOnChange(window.chkOptions[5], "mIRCDDE");
   writeOnChange(window.chkSplash, "splash");
   writeOnChange(window.chkOldSplash, "oldsplash");
+  writeOnChange(prompt.chkMsg, "neverautojoin");
   connections_.push_back(window.chkOptions[5].value.changed.connect([this] { announcementsChanged(); }));
   connections_.push_back(window.chkOptions[6].value.changed.connect(
       [&notices] { notices.ShowPopMsg("This feature has not been implemented."); }));
@@ -80,6 +82,7 @@ void Settings::LoadSettings() {
   }
   loadCheckBox(window_.chkOptions[3], "novideo");
   loadCheckBox(window_.chkOptions[2], "nojoystick");
+  loadCheckBox(prompt_.chkMsg, "neverautojoin");
   loadAutoJoin();
   loadAutoRefresh();
   loadGamePath();

@@ -7,6 +7,7 @@
 
 #include "core/Commands.h"
 #include "core/GameFolder.h"
+#include "core/SideWindows.h"
 #include "core/frmMain.h"
 #include "core/modReg.h"
 #include "platform/Notices.h"
@@ -16,7 +17,7 @@ namespace vantrel {
 class Settings {
  public:
   // All of it must outlive this. From now on a changed control is written.
-  Settings(frmMain& window, modReg& registry, Commands& commands, GameFolder& game, Notices& notices);
+  Settings(frmMain& window, frmMsg& prompt, modReg& registry, Commands& commands, GameFolder& game, Notices& notices);
 
   // Pours the settings into the controls and opens the first page: the settings while the game's folder is `notFound`,
   // else the servers.
@@ -41,6 +42,7 @@ class Settings {
   void openFirstPage();
 
   frmMain& window_;
+  frmMsg& prompt_;
   modReg& registry_;
   Commands& commands_;
   GameFolder& game_;

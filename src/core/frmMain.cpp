@@ -8,6 +8,7 @@ namespace {
 
 constexpr int pingDelay = 11000;       // milliseconds
 constexpr int refreshInterval = 5000;  // milliseconds
+constexpr int watchInterval = 2000;    // milliseconds
 
 // The size that the window is drawn for, in twips.
 constexpr float designWidth = 10065;
@@ -117,7 +118,8 @@ frmMain::frmMain(Loop& loop)
       ListView3({{"Teams", 80}, {"Score", 0}}, {6060, 4500, 3855, 900}),
       ListView4({{"Current Game", 120}, {"Server Value", 0}}, {600, 2160, 4125, 4755}),
       ListView5({{"Vehicles", 120}, {"Server Value", 0}}, {600, 2160, 4170, 1275}),
-      tmrRefresh(loop, refreshInterval) {
+      tmrRefresh(loop, refreshInterval),
+      tmrRunning(loop, watchInterval) {
   PicBG.place.set({0, 1400, 0, 0});
   picScore.place.set({5880, 1320, 4215, 6735});
   picFaves2.place.set({5880, 1320, 4215, 4800});
@@ -126,6 +128,7 @@ frmMain::frmMain(Loop& loop)
     total->text.set("0");
   }
   ListView2.sort.set({.column = playersScore});
+  txtParamProc.text.set("1.00");
   lblData.caption.set("Vantrel CE");
   lblText2[0].visible.set(false);
   mircChan.enabled.set(false);

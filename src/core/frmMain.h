@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "core/WindowState.h"
 #include "platform/Controls.h"
 #include "platform/FavoritesList.h"
 #include "platform/ListView.h"
@@ -50,8 +51,6 @@ enum Number : int {
   explainBuddies = 42,
 };
 }  // namespace command
-
-enum class WindowState { normal = 0, minimized = 1, maximized = 2 };
 
 struct frmMain {
   // `loop` must outlive the window.
@@ -119,6 +118,16 @@ struct frmMain {
 
   // The tools page.
   Panel picTools;
+  FileListBox lstApps;
+  TextBox txtExe;        // path of the selected tool; empty until one is picked
+  TextBox txtParamProc;  // the command line of every tool
+
+  // The game that is being watched, in decimal; empty while none is.
+  Label lblProcess;
+  Label lblThread;
+  Label lblProcessID;
+  Label lblThreadID;
+  Timer tmrRunning;  // looks whether the game has ended
 
   // The favorites and their editor.
   Panel picFaves;

@@ -110,4 +110,13 @@ class ListBox {
   int selected_ = -1;
 };
 
+// The files of one folder by their names, numbered from 0. What a pattern means is for who fills it to know.
+struct FileListBox {
+  Field<std::string> path;
+  Field<std::string> pattern;
+  ListBox files;
+
+  Signal<> clicked;  // fired by a view, behind the selection
+};
+
 }  // namespace vantrel

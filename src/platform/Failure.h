@@ -21,6 +21,9 @@ inline Failure overflow() {
 inline Failure subscriptOutOfRange() {
   return {9, "Subscript out of range"};
 }
+inline Failure outOfMemory() {
+  return {7, "Out of memory"};
+}
 inline Failure typeMismatch() {
   return {13, "Type mismatch"};
 }
@@ -30,11 +33,26 @@ inline Failure fileNotFound() {
 inline Failure diskFull() {
   return {61, "Disk full"};
 }
+inline Failure permissionDenied() {
+  return {70, "Permission denied"};
+}
 inline Failure fileAccess() {
   return {75, "Path/File access error"};
 }
 inline Failure pathNotFound() {
   return {76, "Path not found"};
+}
+inline Failure notAProgram() {
+  return {193, "Not a program that can run here"};
+}
+inline Failure noForeignApplication() {
+  return {282, "No foreign application responded to a DDE initiate"};
+}
+inline Failure foreignApplicationRefused() {
+  return {286, "Timeout while waiting for DDE response"};
+}
+inline Failure noConversation() {
+  return {293, "DDE method invoked with no channel open"};
 }
 inline Failure connectionReset() {
   return {10054, "The connection is reset by remote side"};

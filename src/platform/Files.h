@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -21,6 +22,11 @@ struct FileStamp {
   std::uint64_t identity = 0;  // of the file behind the name
 
   bool operator==(const FileStamp& other) const = default;
+};
+
+struct FolderEntry {
+  std::string name;
+  bool canRun = false;  // the user may start it as a program, by itself or through Wine
 };
 
 class Files {
@@ -48,6 +54,10 @@ class Files {
   // The path of the file or folder under its real name: as given when it exists so, else the first whose names differ
   // in capitals only. Nothing when there is none.
   virtual std::optional<std::string> find(const std::string& path) const = 0;
+
+  // The files of a folder, those behind links included and folders not, in the order of their names without regard to
+  // capitals. Throws failure 76 when there is no such folder, 75 when it cannot be read.
+  virtual std::vector<FolderEntry> list(const std::string& folder) const = 0;
 };
 
 }  // namespace vantrel

@@ -20,19 +20,23 @@ constexpr std::size_t allowance = 256 * 1024;  // bytes
 
 DetailQuery::DetailQuery(const Context& context) : c_(context) {
   addCommand();
-  c_.wsHaloData.onArrival([this](const Datagram& datagram) {
-    const std::string_view bytes = takeBytes(datagram);
-    if (bytes.empty() && !datagram.bytes.empty()) {
-      return;
-    }
-    stopSilently([&] { DetailReply(bytes, c_.mainWindow, c_.notices, c_.view).show(c_.checkMap); });
-  });
+  c_.wsHaloData.onArrival([this](const Datagram& datagram) { stopSilently([&] { handle(datagram); }); });
   c_.wsHaloData.onError([this](const Failure& failure, const std::string&, int) { handleError(failure); });
 }
 
 DetailQuery::~DetailQuery() {
   c_.wsHaloData.onArrival({});
   c_.wsHaloData.onError({});
+}
+
+void DetailQuery::handle(const Datagram& datagram) {
+  const std::string_view bytes = takeBytes(datagram);
+  if (bytes.empty() && !datagram.bytes.empty()) {
+    return;
+  }
+  DetailReply reply(bytes, c_.mainWindow, c_.notices, c_.view);
+  reply.show(c_.checkMap);
+  replied.fire({datagram.ip, datagram.port, reply.players(), reply.maxPlayers()});
 }
 
 // The rows of replies pile up until the next query. What nobody could read any more is left out.

@@ -17,6 +17,16 @@
 
 namespace vantrel {
 
+// How many players a server has and can have, as its reply tells it.
+struct ServerLoad {
+  std::string ip;  // where the reply came from; empty before the first one
+  int port = 0;
+  double players = 0;
+  double maxPlayers = 0;
+
+  bool isFull() const { return players >= maxPlayers; }
+};
+
 class DetailQuery {
  public:
   // All of it must outlive the query.
@@ -38,10 +48,14 @@ class DetailQuery {
   DetailQuery& operator=(const DetailQuery&) = delete;
   ~DetailQuery();
 
+  // A reply was handled to its end; all that it changes is on show. A listener may wait.
+  Signal<const ServerLoad&> replied;
+
  private:
   void addCommand();
   void beginView();
   void send();
+  void handle(const Datagram& datagram);
   std::string_view takeBytes(const Datagram& datagram);
   void handleError(const Failure& failure);
   bool canBeAsked() const;

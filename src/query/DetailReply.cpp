@@ -188,9 +188,17 @@ void DetailReply::showRules() const {
   window_.lblText[10].caption.set(killing.word(killing.value(flags.player)));
 }
 
+double DetailReply::players() const {
+  return toNumber(numplayers_);
+}
+
+double DetailReply::maxPlayers() const {
+  return toNumber(maxplayers_);
+}
+
 void DetailReply::showSummary() const {
   window_.lblText[9].caption.set(numplayers_ + " / " + maxplayers_ + " players");
-  const bool full = toNumber(numplayers_) >= toNumber(maxplayers_);
+  const bool full = players() >= maxPlayers();
   view_.showTitle(e_.element(0) + " - " + numplayers_ + "/" + maxplayers_ + " players " +
                   (full ? "- Server is full. " : ""));
 }

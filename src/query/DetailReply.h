@@ -21,6 +21,10 @@ class DetailReply {
   // is none or too large, flags without a comma.
   void show(const std::function<void(const std::string& mapFile)>& checkMap);
 
+  // How many there are and can be. REQUIRES: the reply was shown to its end.
+  double players() const;
+  double maxPlayers() const;
+
  private:
   // Both as they are in the reply; 0 is a key that it does not have.
   struct Positions {

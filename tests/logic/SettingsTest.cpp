@@ -130,17 +130,6 @@ TEST(Settings, each_control_writes_its_value_the_moment_it_changes) {
   EXPECT_EQ(world.setting("splash"), "0");
 }
 
-TEST(Settings, the_announcement_box_opens_and_closes_the_box_of_the_channel) {
-  World world;
-  CheckBox& box = world.mainWindow.chkOptions[5];
-  box.value.set(1);
-  EXPECT_TRUE(world.mainWindow.mircChan.enabled.get());
-  EXPECT_EQ(world.mainWindow.mircChan.toolTip.get(), "");
-  box.value.set(0);
-  EXPECT_FALSE(world.mainWindow.mircChan.enabled.get());
-  EXPECT_EQ(world.mainWindow.mircChan.toolTip.get(), "Enable mIRC message to type channel name!");
-}
-
 TEST(Settings, the_four_switches_set_their_pair_the_registry_the_picture_and_the_timer) {
   World world;
   frmMain& window = world.mainWindow;

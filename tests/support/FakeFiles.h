@@ -57,6 +57,25 @@ class FakeFiles : public Files {
     return found == paths.end() ? std::nullopt : std::optional(*found);
   }
 
+  std::vector<FolderEntry> list(const std::string& folder) const override {
+    if (!folders_.contains(folder)) {
+      throw failures::pathNotFound();
+    }
+    std::map<std::pair<std::string, std::string>, FolderEntry> entries;
+    for (const auto& [path, file] : files_) {
+      const std::string name = path.substr(path.rfind(pathSeparator) + 1);
+      if (path == folder + pathSeparator + name) {
+        const bool canRun = lowerCase(name).ends_with(".exe") || programs.contains(path);
+        entries[{lowerCase(name), name}] = {name, canRun};
+      }
+    }
+    std::vector<FolderEntry> listed;
+    for (const auto& [key, entry] : entries) {
+      listed.push_back(entry);
+    }
+    return listed;
+  }
+
   void makeFolder(const std::string& path) { folders_.insert(path); }
   // What another program does: `bytes` become the content of the file, which stays the same file if there is one.
   void changeOutside(const std::string& path, const std::string& bytes) {
@@ -69,6 +88,7 @@ class FakeFiles : public Files {
 
   bool full = false;
   std::set<std::string> unreadable;
+  std::set<std::string> programs;  // files with the right to be executed
   std::size_t replacedBytes = 0;  // written by `replace`
   int replacements = 0;
 

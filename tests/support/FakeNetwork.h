@@ -94,6 +94,7 @@ class FakeUdpSocket : public UdpSocket {
     }
     const std::string address = ip + ":" + std::to_string(port);
     network_.note(address + " > " + bytes);
+    ++sent;
     if (network_.answers(address)) {
       network_.servers[address].received.push_back(bytes);
       for (const Arrival& answer : network_.servers[address].answers) {
@@ -113,6 +114,8 @@ class FakeUdpSocket : public UdpSocket {
   void receive(int delay, const Datagram& datagram) {
     inbox_.put(delay, [this, datagram] { arrival_(datagram); });
   }
+
+  int sent = 0;  // datagrams
 
  private:
   FakeNetwork& network_;

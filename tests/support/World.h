@@ -13,17 +13,22 @@
 #include "browser/Pages.h"
 #include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
-#include "join/AutoSwitches.h"
+#include "join/GameLaunch.h"
+#include "join/SlotWatch.h"
+#include "join/Tools.h"
 #include "maps/MapCheck.h"
 #include "query/DetailQuery.h"
 #include "query/DetailView.h"
 #include "query/MasterExchange.h"
 #include "query/PlayerList.h"
+#include "support/FakeDde.h"
 #include "support/FakeDesktop.h"
 #include "support/FakeFiles.h"
 #include "support/FakeIcmp.h"
 #include "support/FakeNetwork.h"
+#include "support/FakeProcesses.h"
 #include "support/FakeRegistry.h"
+#include "support/FakeSound.h"
 
 namespace vantrel {
 
@@ -111,12 +116,14 @@ struct World {
   FakeFiles files;
   FakeNetwork network{loop};
   FakeNotices notices;
-  Site site{"master.example.test", "http://maps.example.test/maps/", "http://maps.example.test/"};
+  Site site{"master.example.test", "http://maps.example.test/maps/", "http://maps.example.test/",
+            "http://www.example.test/"};
   AppFolder folder{files, "/app"};
   frmMain mainWindow{loop};
   frmPlayers players;
   frmBuddies buddies;
   frmMirror mirror;
+  frmMsg prompt{loop};
   ProfileFiles profiles{files, loop};
   StoreContext context{profiles, loop, notices, folder, site, mainWindow, buddies, mirror};
   modFavesIni stores{context};
@@ -133,7 +140,7 @@ struct World {
   modReg reg{registry};
   Commands commands{mainWindow, notices};
   GameFolder game{mainWindow, reg, dialogs};
-  Settings settings{mainWindow, reg, commands, game, notices};
+  Settings settings{mainWindow, prompt, reg, commands, game, notices};
   Pages pages{mainWindow, commands, notices};
   InputBoxes boxes{mainWindow, commands, notices, loop};
   Favorites favorites{{context, stores, rewrites, commands, dialogs}};
@@ -150,6 +157,16 @@ struct World {
                      [this](const std::string& someTab) { pages.showTab(someTab); },
                      [this](const std::string& mapFile) { maps.checkMap(mapFile); }}};
   PlayerList playerList{context, stores, menu};
+  FakeUdpSocket wsPass{network};
+  FakeProcesses processes;
+  FakeDde dde;
+  FakeSound sound;
+  modMirc announcer{mainWindow, dde, site, version};
+  GameWatch gameWatch{mainWindow, buddies, processes, notices, announcer};
+  SlotWatch slotWatch{{mainWindow, prompt, commands, notices, sound, gameWatch, query, switches}};
+  GameLaunch launch{{wsPass, mainWindow, buddies, commands, notices, files, processes, announcer, gameWatch,
+                     [this] { return slotWatch.holdBack(); }}};
+  Tools tools{{mainWindow, buddies, commands, notices, files, folder, processes}};
   frmSplash splash{loop};
   StartContext startContext{context, stores, rewrites, settings, splash, lock, version};
 };

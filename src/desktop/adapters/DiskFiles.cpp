@@ -5,10 +5,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "core/Text.h"
 #include "platform/Failure.h"
@@ -196,6 +198,32 @@ std::optional<std::string> DiskFiles::find(const std::string& path) const {
     }
   }
   return found.string();
+}
+
+std::vector<FolderEntry> DiskFiles::list(const std::string& folder) const {
+  std::error_code error;
+  std::vector<FolderEntry> entries;
+  auto entry = std::filesystem::directory_iterator(folder, error);
+  if (error) {
+    const bool missing = error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
+    throw missing ? failures::pathNotFound() : failures::fileAccess();
+  }
+  while (entry != std::filesystem::directory_iterator()) {
+    std::error_code gone;
+    if (entry->is_regular_file(gone)) {
+      const std::string name = entry->path().filename().string();
+      const bool forWine = lowerCase(name).ends_with(".exe");
+      entries.push_back({name, forWine || ::access(entry->path().c_str(), X_OK) == 0});
+    }
+    entry.increment(error);
+    if (error) {
+      throw failures::fileAccess();
+    }
+  }
+  std::sort(entries.begin(), entries.end(), [](const FolderEntry& one, const FolderEntry& other) {
+    return std::pair(lowerCase(one.name), one.name) < std::pair(lowerCase(other.name), other.name);
+  });
+  return entries;
 }
 
 }  // namespace vantrel

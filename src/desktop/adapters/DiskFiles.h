@@ -13,6 +13,7 @@ class DiskFiles : public Files {
   void rename(const std::string& from, const std::string& to) override;
   std::optional<FileStamp> stamp(const std::string& path) const override;
   std::optional<std::string> find(const std::string& path) const override;
+  std::vector<FolderEntry> list(const std::string& folder) const override;
 };
 
 }  // namespace vantrel

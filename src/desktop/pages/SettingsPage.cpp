@@ -26,8 +26,8 @@ constexpr int boxes = 1;
 constexpr int behind = 2;
 constexpr int all = 3;
 
-constexpr int cardMargin = 6;  // above and below what stands in a card
-constexpr int rowGap = 4;
+constexpr int cardMargin = 5;  // above and below what stands in a card
+constexpr int rowGap = 3;
 constexpr qreal headingSize = 10;        // points
 constexpr QColor deepField{16, 17, 20};  // behind a text that may be red
 
@@ -59,9 +59,10 @@ QWidget* makeHeadingButton(Bindings& bindings, frmMain& window, Commands& comman
 
 }  // namespace
 
-SettingsPage::SettingsPage(frmMain& window, Commands& commands, QWidget* parent)
+SettingsPage::SettingsPage(frmMain& window, frmMsg& question, Commands& commands, QWidget* parent)
     : PagePanel(window.picSettings, "picSettings", parent),
       window_(window),
+      question_(question),
       commands_(commands),
       parts_(bindings(), window, commands) {
   setAccessibleName(tr("Settings"));
@@ -180,6 +181,16 @@ void SettingsPage::addAutoJoin(QGridLayout& grid) {
   grid.addWidget(label(19), 2, labels);
   grid.addLayout(row, 2, boxes, 1, all - boxes);
   grid.addWidget(pair, 3, boxes, 1, all - boxes);
+  grid.addWidget(makeNeverAsk(), 4, boxes, 1, all - boxes);
+}
+
+// The caption that the model has is the one in the window that asks, and points to this page.
+QCheckBox* SettingsPage::makeNeverAsk() {
+  QCheckBox* const box = parts_.checkBox("chkMsg", question_.chkMsg, scrolled_,
+                                         tr("Never asks whether to wait for a free slot when a server is full"));
+  box->setText(tr("Never A&utoJoin"));
+  box->setAccessibleName(tr("Never AutoJoin"));
+  return box;
 }
 
 void SettingsPage::addAnnouncements(QBoxLayout& cards) {

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "core/SideWindows.h"
 #include "desktop/pages/PagePanel.h"
 #include "desktop/pages/PageParts.h"
 
@@ -15,8 +16,8 @@ class SettingsPage : public PagePanel {
   Q_OBJECT
 
  public:
-  // Both must outlive the page.
-  SettingsPage(frmMain& window, Commands& commands, QWidget* parent);
+  // All three must outlive the page. The window that asks whether to wait for a server, `question`, has a switch here.
+  SettingsPage(frmMain& window, frmMsg& question, Commands& commands, QWidget* parent);
 
  private:
   QWidget* makeScrolled();
@@ -26,6 +27,7 @@ class SettingsPage : public PagePanel {
   void addStartup(QBoxLayout& cards);
   void addQueries(QBoxLayout& cards);
   void addAutoJoin(QGridLayout& grid);
+  QCheckBox* makeNeverAsk();
   void addAnnouncements(QBoxLayout& cards);
   void addAtStart(QBoxLayout& cards);
   void addChat(QBoxLayout& cards);
@@ -35,6 +37,7 @@ class SettingsPage : public PagePanel {
   void lineUp();
 
   frmMain& window_;
+  frmMsg& question_;
   Commands& commands_;
   PageParts parts_;
   QWidget* scrolled_ = nullptr;

@@ -1,4 +1,4 @@
-// The page of the other programs that can be started from here.
+// The page of the other programs that can be started from here, or, while there are none, of how they get here.
 #pragma once
 
 #include "desktop/pages/PagePanel.h"
@@ -11,6 +11,11 @@ class ToolsPage : public PagePanel {
  public:
   // Both must outlive the page.
   ToolsPage(frmMain& window, Commands& commands, QWidget* parent);
+
+ private:
+  // What stands in the list while it is empty.
+  QWidget* makeHint(FileListBox& list, QWidget* parent);
+  QWidget* makePath(FileListBox& list, QWidget* parent);
 };
 
 }  // namespace vantrel

@@ -47,7 +47,7 @@ Qt::WindowStates toolkitState(WindowState state) {
 
 }  // namespace
 
-MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progress)
+MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progress, frmMsg& question)
     : model_(model),
       header_(new HeaderStrip(model, commands, this)),
       serverPage_(new ServerPage(model, commands, progress, this)),
@@ -57,7 +57,7 @@ MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progre
   backdrop_->setObjectName("backdrop");
   backdrop_->setAutoFillBackground(true);
   bindings_.bindVisible(*backdrop_, model.PicBG.visible);
-  makePages(commands);
+  makePages(commands, question);
   takeFirstSize();
   bindWindow();
 }
@@ -66,14 +66,14 @@ MainWindow::~MainWindow() = default;
 
 // From the bottom of the pile to its top, but for the help: it lies beneath the editor of the favorites and comes
 // behind it in the order of the tab key.
-void MainWindow::makePages(Commands& commands) {
+void MainWindow::makePages(Commands& commands, frmMsg& question) {
   for (const auto& [panel, name] : {std::pair(&model_.PicBG, "PicBG"), std::pair(&model_.PicServers, "PicServers"),
                                     std::pair(&model_.PicChat, "PicChat")}) {
     new PagePanel(*panel, name, this);
   }
   details_ = std::make_unique<DetailPages>(model_, commands, this);
   new AboutPage(model_, commands, this);
-  auto* const settings = new SettingsPage(model_, commands, this);
+  auto* const settings = new SettingsPage(model_, question, commands, this);
   auto* const tools = new ToolsPage(model_, commands, this);
   auto* const faves = new FavesPage(model_, commands, this);
   auto* const editor = new FaveEditor(model_, commands, this);

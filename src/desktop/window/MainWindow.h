@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "core/Commands.h"
+#include "core/SideWindows.h"
 #include "core/frmMain.h"
 #include "desktop/controls/Bindings.h"
 #include "desktop/pages/DetailPages.h"
@@ -22,8 +23,8 @@ class MainWindow : public QWidget {
   Q_OBJECT
 
  public:
-  // All three must outlive the window. It is on the screen when the model is visible.
-  MainWindow(frmMain& model, Commands& commands, SweepProgress& progress);
+  // All four must outlive the window. It is on the screen when the model is visible.
+  MainWindow(frmMain& model, Commands& commands, SweepProgress& progress, frmMsg& question);
   ~MainWindow() override;
 
   ServerPage& serverPage() { return *serverPage_; }
@@ -39,7 +40,7 @@ class MainWindow : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void makePages(Commands& commands);
+  void makePages(Commands& commands, frmMsg& question);
   void takeFirstSize();
   void noteOuterSize();
   void bindWindow();

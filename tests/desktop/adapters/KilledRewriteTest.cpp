@@ -29,7 +29,7 @@ struct FavoritesOnDisk {
   std::string file;
   FakeNotices notices;
   FakeDialogs dialogs;
-  Site site{"", "", ""};
+  Site site{"", "", "", ""};
   frmMain window{loop};
   frmBuddies buddies;
   frmMirror mirror;

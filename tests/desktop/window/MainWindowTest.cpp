@@ -91,9 +91,10 @@ struct MainWindowTest : ::testing::Test {
   InputBoxes boxes{model, commands, notices, loop};
   WindowLayout layout{model};
   SweepProgress progress;
+  frmMsg question{loop};
   QFont fontBefore = QApplication::font();
   bool themed = (applyTheme(*qApp), true);
-  MainWindow window{model, commands, progress};
+  MainWindow window{model, commands, progress, question};
 };
 
 TEST_F(MainWindowTest, a_click_on_a_tab_shows_its_page_alone_and_marks_the_tab) {
@@ -130,7 +131,7 @@ TEST_F(MainWindowTest, the_tab_key_goes_from_the_header_through_the_page_as_the_
       {command::showPlayers, " ListView2 cmdMenu42" + score},
       {command::showSettings,
        " txtHaloPath cmdMenu15 chkOptions0 chkOptions1 chkOptions2 chkOptions3 cmbVid cmbShowTab picJoin cmdMenu10"
-       " cmdMenu0 chkOptions5 mircChan chkSplash chkOldSplash chkOptions6 txtFAQ"},
+       " cmdMenu0 chkMsg chkOptions5 mircChan chkSplash chkOldSplash chkOptions6 txtFAQ"},
       {command::showTools, " lstApps cmdMenu37 txtFAQ"},
       {command::showFaves,
        " myFaves1 cmdMenu27 cmdMenu36 cmdMenu28 cmdMenu34 txtID txtServerName txtIP2 txtPort2 cmbGameType txtPass"
@@ -188,7 +189,7 @@ TEST_F(MainWindowTest, no_caption_is_cut_at_the_design_size_in_a_narrow_or_a_wid
     QFont font = QApplication::font();
     font.setFamilies({family});
     QApplication::setFont(font);
-    MainWindow fresh(model, commands, progress);
+    MainWindow fresh(model, commands, progress, question);
     fresh.resize(designSize);
     for (const int page : designPages) {
       commands.cmdMenu_Click(page);

@@ -4,13 +4,8 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QListWidget>
-#include <QScrollBar>
 #include <QTest>
-#include <QTextBlock>
-#include <QTextEdit>
-#include <QWheelEvent>
 #include <map>
 
 #include "appearance/WindowLayout.h"
@@ -54,12 +49,14 @@ struct PagesTest : ::testing::Test {
   Pages pages{model, commands, notices};
   WindowLayout layout{model};
   SweepProgress progress;
-  MainWindow window{model, commands, progress};
+  frmMsg question{loop};
+  MainWindow window{model, commands, progress, question};
 };
 
 TEST_F(PagesTest, each_check_box_of_the_settings_is_the_switch_of_its_name) {
   open(command::showSettings);
-  std::map<QString, CheckBox*> boxes{{"chkSplash", &model.chkSplash}, {"chkOldSplash", &model.chkOldSplash}};
+  std::map<QString, CheckBox*> boxes{
+      {"chkSplash", &model.chkSplash}, {"chkOldSplash", &model.chkOldSplash}, {"chkMsg", &question.chkMsg}};
   for (const std::size_t number : {0U, 1U, 2U, 3U, 5U, 6U}) {
     boxes[QStringLiteral("chkOptions%1").arg(number)] = &model.chkOptions[number];
   }
@@ -70,40 +67,6 @@ TEST_F(PagesTest, each_check_box_of_the_settings_is_the_switch_of_its_name) {
     EXPECT_EQ(find<QCheckBox>(name)->checkState(), Qt::PartiallyChecked) << name.toStdString();
     EXPECT_EQ(box->value.get(), 2) << "what is shown comes back to the model";
   }
-}
-
-TEST_F(PagesTest, a_combo_box_keeps_what_the_user_types_or_chooses_but_not_what_the_wheel_turns_up) {
-  open(command::showSettings);
-  model.cmbVid.text.set("-mine");
-  model.cmbVid.items.set({" ", "-use11"});
-  model.cmbShowTab.text.set("Elsewhere");
-  EXPECT_EQ(find<QComboBox>("cmbVid")->currentText(), "-mine") << "a text that is not in the list";
-  EXPECT_EQ(find<QComboBox>("cmbShowTab")->placeholderText(), "Elsewhere");
-  EXPECT_EQ(find<QComboBox>("cmbShowTab")->currentIndex(), -1);
-  find("cmbVid")->setFocus();
-  QTest::keyClicks(QApplication::focusWidget(), "s");
-  EXPECT_EQ(model.cmbVid.text.get(), "-mines");
-  model.cmbVid.text.set("");
-  QTest::keyClicks(QApplication::focusWidget(), "-use1");
-  EXPECT_EQ(find<QComboBox>("cmbVid")->currentText(), "-use1") << "no proposal completes it";
-  QTest::keyClick(find("cmbShowTab"), Qt::Key_Down);
-  QWheelEvent turn(QPointF(5, 5), find("cmbShowTab")->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                   Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(find("cmbShowTab"), &turn);
-  EXPECT_EQ(model.cmbShowTab.text.get(), "Current Game");
-}
-
-TEST_F(PagesTest, the_help_tells_of_every_switch_from_its_beginning_with_headings_and_without_markup) {
-  open(command::showSettings);
-  EXPECT_EQ(find<QTextEdit>("txtFAQ")->verticalScrollBar()->value(), 0);
-  for (const std::size_t number : {0U, 1U, 2U, 3U}) {
-    EXPECT_NE(helpText().find(model.chkOptions[number].caption.get()), std::string::npos) << number;
-  }
-  model.txtFAQ.caption.set("<b>One</b>:\r\n<img src='file:///etc/hostname'>&amp; a: b\n\nTwo:\n");
-  const QTextDocument* const shown = find<QTextEdit>("txtFAQ")->document();
-  EXPECT_EQ(shown->toPlainText(), "<b>One</b>\n<img src='file:///etc/hostname'>&amp; a: b\nTwo");
-  EXPECT_TRUE(shown->firstBlock().begin().fragment().charFormat().fontWeight() == QFont::Bold);
-  EXPECT_FALSE(shown->firstBlock().next().begin().fragment().charFormat().fontWeight() == QFont::Bold);
 }
 
 TEST_F(PagesTest, a_favorites_password_is_dots_until_it_is_asked_for_on_each_visit_and_the_lines_about_it_are_plain) {
