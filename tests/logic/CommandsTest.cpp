@@ -160,17 +160,6 @@ TEST(Commands, the_server_is_forgotten_with_all_that_was_shown_of_it) {
       "Right click player names to add them to your\r\nto your buddy list. Vantrel CE can then find them online.");
 }
 
-TEST(Pages, a_page_that_is_on_show_stays_there_without_a_flicker) {
-  World world;
-  std::string seenToChange;
-  const Connection grid = world.mainWindow.grdServers.visible.changed.connect([&] { seenToChange += "grid "; });
-  const Connection list = world.mainWindow.ListView2.visible.changed.connect([&] { seenToChange += "list "; });
-  for (const int page : {9, 9, 2, 2}) {
-    world.commands.clickIt(page);
-  }
-  EXPECT_EQ(seenToChange, "grid list grid ");
-}
-
 TEST(InputBoxes, an_address_with_its_port_fills_both_boxes) {
   World world;
   frmMain& window = world.mainWindow;

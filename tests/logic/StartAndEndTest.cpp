@@ -169,14 +169,6 @@ TEST_F(Start, an_end_before_the_main_window_has_loaded_writes_nothing) {
   EXPECT_EQ(world.onDisk("favorites.ini"), "[FAVECOUNT]\r\nFavorites=1\r\n[1]\r\nname=x\r\n");
 }
 
-TEST_F(Start, an_end_in_the_pause_before_the_reminder_lets_nothing_further_happen) {
-  wantNoSplash();
-  world.loop.at(500, [this] { program.close(); });
-  program.start();
-  EXPECT_FALSE(world.mainWindow.visible.get());
-  EXPECT_TRUE(world.notices.log.empty());
-}
-
 TEST_F(Start, an_unreadable_store_or_registry_is_no_obstacle_and_stays_as_it_is) {
   wantNoSplash();
   world.registry.readable = false;

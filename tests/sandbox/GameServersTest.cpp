@@ -47,43 +47,4 @@ TEST(GameServers, a_closed_server_refuses_and_a_silent_one_does_not) {
   }
 }
 
-TEST(GameServers, replies_come_after_the_servers_latency_and_in_its_order) {
-  WorldSettings settings = quickWorld(60);
-  settings.latencyHigh = std::chrono::milliseconds(90);
-  RunningWorld world(settings);
-  Client client;
-  const auto start = Clock::now();
-  for (const GameServer& server : world.servers()) {
-    client.sendTo(server.endpoint, "\\status");
-  }
-  const auto sending = Clock::now() - start;
-  std::chrono::milliseconds longest{0};
-  for (std::size_t i = 0; i < settings.servers; ++i) {
-    ASSERT_NE(client.receive(), "nothing");
-    const auto latency = std::ranges::find(world.servers(), client.source, &GameServer::endpoint)->latency;
-    EXPECT_GE(Clock::now() - start, latency);
-    EXPECT_GE(latency + std::chrono::milliseconds(40) + sending, longest) << client.source.text();
-    longest = std::max(longest, latency);
-  }
-  EXPECT_GT(longest.count(), 70);
-}
-
-TEST(GameServers, queries_and_replies_are_lost_as_often_as_was_asked_for_and_the_log_tells_which) {
-  WorldSettings settings = quickWorld(400);
-  settings.loss = 0.5;
-  RunningWorld world(settings);
-  Client client;
-  for (const GameServer& server : world.servers()) {
-    client.sendTo(server.endpoint, "\\status");
-  }
-  const auto lost = [&](LogEvent event) { return static_cast<int>(world.log().count(event)); };
-  int replies = 0;
-  for (int turn = 0; turn < 600 && replies + lost(LogEvent::QueryLost) + lost(LogEvent::ReplyLost) < 400; ++turn) {
-    replies += client.receive(10) != "nothing";
-  }
-  EXPECT_EQ(replies + lost(LogEvent::QueryLost) + lost(LogEvent::ReplyLost), 400);
-  EXPECT_NEAR(lost(LogEvent::QueryLost), 200, 40);
-  EXPECT_NEAR(replies, 100, 35);
-}
-
 }  // namespace vantrel::sandbox

@@ -62,35 +62,5 @@ TEST(MasterServer, a_message_wrong_in_one_place_ends_the_conversation) {
   }
 }
 
-TEST(MasterServer, faults_can_be_switched_between_the_steps_of_a_conversation) {
-  RunningWorld world(quickWorld(30));
-  const auto greetingWith = [&](FaultKind kind) {
-    world.setMasterFault({kind});
-    return MasterClient(world).receive(kind == FaultKind::NeverAnswer ? kShort : kPatience);
-  };
-  EXPECT_EQ(greetingWith(FaultKind::CloseAfterAccept), "");
-  EXPECT_EQ(greetingWith(FaultKind::ResetAfterAccept), "failed");
-  EXPECT_EQ(greetingWith(FaultKind::NeverAnswer), "nothing");
-  EXPECT_EQ(greetingWith(FaultKind::NoChallenge), "\\basic\\\\secure\\");
-
-  const auto listWith = [&](const MasterFault& fault, std::size_t bytes) {
-    world.setMasterFault({});
-    MasterClient client(world);
-    const std::string greeting = client.receiveBytes(kGreetingLength);
-    world.setMasterFault(fault);
-    client.send(messageFor(greeting));
-    const std::string arrived = client.receiveBytes(bytes);
-    return arrived + "|" + client.receive(fault.kind == FaultKind::SplitEndMark ? kPatience : kShort);
-  };
-  const std::string list = listOf(world);
-  EXPECT_EQ(listWith({FaultKind::TruncatedList, 10}, list.size() - 10), list.substr(0, list.size() - 10) + "|nothing");
-  EXPECT_EQ(listWith({FaultKind::SplitEndMark}, list.size() - 3), list.substr(0, list.size() - 3) + "|al\\");
-  const std::string data = listWith({FaultKind::RandomData, 16}, 16 << 20);
-  ASSERT_EQ(data.size(), (16u << 20) + 8);
-  for (std::size_t i = 0; i < 16 << 20; i += 6) {
-    ASSERT_EQ(data[i], 127) << "a record that leads away from this machine";
-  }
-}
-
 }  // namespace
 }  // namespace vantrel::sandbox

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QListWidget>
 #include <QMenu>
 #include <QTest>
 
@@ -58,25 +57,6 @@ TEST_F(PopupMenuTest, a_menu_on_top_of_another_dismisses_it_and_the_end_dismisse
   onceUp([this](QMenu&) { loop.beginEnding(); });
   EXPECT_EQ(popupMenu.Popup(items), 0);
   EXPECT_EQ(popupMenu.Popup(items), 0) << "a program that ends asks nothing any more";
-}
-
-TEST_F(PopupMenuTest, a_menu_that_a_key_asks_for_stands_below_what_the_keys_stand_on) {
-  QListWidget list;
-  list.addItems({"One", "Two"});
-  list.setCurrentRow(1);
-  list.show();
-  list.activateWindow();
-  list.setFocus();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
-  QTest::keyClick(&list, Qt::Key_Menu);
-  QPoint place;
-  onceUp([&](QMenu& menu) {
-    place = menu.pos();
-    menu.close();
-  });
-  EXPECT_EQ(popupMenu.Popup(items), 0);
-  const QRect item = list.visualItemRect(list.item(1));
-  EXPECT_EQ(place, list.viewport()->mapToGlobal(QPoint(item.left(), item.bottom() + 1)));
 }
 
 }  // namespace

@@ -104,24 +104,4 @@ TEST_F(ServerGridColumnsTest, a_layout_that_the_program_sets_is_applied_when_the
   EXPECT_FALSE(heardOf.wait(longEnough));
 }
 
-TEST_F(ServerGridColumnsTest, a_hidden_column_sorts_groups_and_is_searched_and_the_rest_is_dragged_as_ever) {
-  addMany(60);
-  press(3, Qt::LeftButton, 30);
-  view.setColumnLayout("-cName:165 -cPing:50");
-  view.sortBy(ping, SortDirection::descending);
-  EXPECT_EQ(entry(0), 60);
-  key(Qt::Key_Home);
-  QTest::keyClicks(&view.table(), "server 0");
-  EXPECT_EQ(selectedRow(), 1);
-  EXPECT_GT(view.table().verticalScrollBar()->value(), 0) << "the row was scrolled to";
-  view.groupBy(name);
-  EXPECT_EQ(view.groupingBar().accessibleDescription(), "Grouped by Server Name");
-  drag(*view.header().viewport(), {2, 10},
-       view.header().viewport()->mapFromGlobal(view.groupingBar().mapToGlobal(QPoint(20, 10))));
-  EXPECT_EQ(view.groupingBar().accessibleDescription(), "Grouped by IP")
-      << "its left edge is no handle of a hidden one";
-  dragHeader(map, view.header(), {10, 10});
-  EXPECT_EQ(view.columnLayout(), "-cName:165 -cPing:50 cMap:100 cIP:70 cPort:50");
-}
-
 }  // namespace vantrel

@@ -1,7 +1,6 @@
 // What keys and double clicks do with the selected server, beside walking to another one.
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <memory>
 
 #include "GridWorld.h"
@@ -28,10 +27,6 @@ struct ServerGridKeysTest : GridWorld {
     press(position, button);
     QTest::mouseDClick(view.table().viewport(), button, {}, rowPoint(position));
   }
-  void askForMenu(QContextMenuEvent::Reason reason) {
-    QContextMenuEvent event(reason, {5, 5}, {5, 5});
-    QCoreApplication::sendEvent(&view.table(), &event);
-  }
 
   const int interval = QApplication::keyboardInputInterval();
 };
@@ -54,27 +49,6 @@ TEST_F(ServerGridKeysTest, letters_lead_to_the_next_name_that_begins_with_them_e
   EXPECT_EQ(heard(), "select 2,2 select 3,2 ") << "each once, in the column that was clicked";
   QTest::keyClick(&view.table(), 'a', Qt::AltModifier);
   EXPECT_EQ(heard(), "") << "no letter of a name";
-}
-
-TEST_F(ServerGridKeysTest, letters_walk_the_rows_as_they_are_shown) {
-  addMany(5000);
-  grid.setRowVisible(4999, false);
-  settle();
-  clickHeader(ping);
-  clickHeader(ping);
-  view.groupBy(map);
-  view.model().fold(view.model().order().groupOf(2), Folding::folded);
-  type("sss");
-  EXPECT_EQ(heard(), "select 4997,1 select 4995,1 select 4993,1 ") << "behind the fold, the slowest first";
-  type("server 1");
-  EXPECT_EQ(selectedRow(), 1999);
-  heard();
-  type("server 4999");
-  EXPECT_EQ(heard(), "select 1997,1 select 499,1 select 4997,1 ") << "around the end, but not into the fold";
-  key(Qt::Key_Home);
-  type("n");
-  type(" ");
-  EXPECT_GT(rowsShown(), 5000) << "behind a pause a space is no letter: it unfolds";
 }
 
 TEST_F(ServerGridKeysTest, copy_takes_the_address_of_the_selected_server) {
@@ -130,29 +104,6 @@ TEST_F(ServerGridKeysTest, the_list_may_end_at_the_second_press_of_a_double_clic
   doubleClickOnNew();
   const Connection ending = grid.mouseButton.connect([&list](MouseButton) { list.reset(); });
   doubleClickOnNew();
-}
-
-TEST_F(ServerGridKeysTest, the_menu_key_does_what_a_right_click_on_the_row_does) {
-  addMany(60);
-  askForMenu(QContextMenuEvent::Keyboard);
-  EXPECT_EQ(heard(), "") << "no row is selected";
-  press(2);
-  view.setColumnLayout("-cName:165");
-  view.table().verticalScrollBar()->setValue(500);
-  heard();
-  askForMenu(QContextMenuEvent::Mouse);
-  EXPECT_EQ(heard(), "") << "the press did it already";
-  askForMenu(QContextMenuEvent::Keyboard);
-  EXPECT_EQ(heard(), "right ");
-  const QRect cursor = view.table().inputMethodQuery(Qt::ImCursorRectangle).toRect();
-  EXPECT_EQ(view.table().rowAt(cursor.center().y()), 2) << "where a menu would open";
-  EXPECT_TRUE(view.table().viewport()->rect().contains(cursor));
-  QTest::keyClick(&view.table(), Qt::Key_F10, Qt::ShiftModifier);
-  EXPECT_EQ(heard(), "right ");
-  view.groupBy(map);
-  press(0);
-  askForMenu(QContextMenuEvent::Keyboard);
-  EXPECT_EQ(heard(), "") << "a group row has no menu";
 }
 
 TEST(ServerPage, an_activated_server_is_queried_as_long_as_its_button_is_on) {

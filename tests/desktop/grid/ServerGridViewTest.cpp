@@ -64,26 +64,6 @@ TEST_F(ServerGridViewTest, rows_that_arrive_or_move_out_of_sight_leave_the_scree
   EXPECT_EQ(entry(view.table().rowAt(12)), 42) << "the top row and the selected one do not take the view along";
 }
 
-TEST_F(ServerGridViewTest, rows_that_arrive_above_a_selected_row_in_sight_leave_it_where_it_is_on_the_screen) {
-  addMany(100);
-  clickHeader(ping);
-  settle();
-  add("fast", "0 ms");
-  settle();
-  EXPECT_EQ(view.table().verticalScrollBar()->value(), 0) << "a list that nobody has scrolled stays at its top";
-  view.table().verticalScrollBar()->setValue(40 * 19);
-  press(45);
-  const int before = view.table().rowViewportPosition(45);
-  const int row = selectedRow();
-  const std::string text = grid.cellText(entry(42), ping);
-  for (int i = 0; i < 5; ++i) {
-    add("between", text);
-    settle();
-  }
-  EXPECT_EQ(selectedRow(), row);
-  EXPECT_EQ(view.table().rowViewportPosition(50), before);
-}
-
 TEST_F(ServerGridViewTest, a_press_selects_once_and_tells_the_button_after_it) {
   addMany(5);
   press(2, Qt::LeftButton, 180);
@@ -97,34 +77,6 @@ TEST_F(ServerGridViewTest, a_press_selects_once_and_tells_the_button_after_it) {
   grid.select(4, 1);
   EXPECT_EQ(heard(), "select 4,1 ") << "a program that selects is followed without an echo";
   EXPECT_EQ(selectedRow(), 4);
-}
-
-TEST_F(ServerGridViewTest, a_red_cell_stays_red_in_the_selected_row) {
-  addMany(3);
-  grid.setCellColor(2, ping, colors::red);
-  settle();
-  press(1);
-  const QImage image = picture();
-  int redPixels = 0;
-  for (int i = 0; i < image.width() * image.height(); ++i) {
-    redPixels += image.pixelColor(i % image.width(), i / image.width()) == QColor(255, 0, 0);
-  }
-  EXPECT_GT(redPixels, 3);
-  EXPECT_GT(image.pixelColor(1, rowPoint(1).y()).lightness(), 150);
-}
-
-TEST_F(ServerGridViewTest, keys_walk_the_rows_and_select_each_once) {
-  addMany(60);
-  const std::pair<Qt::Key, const char*> steps[] = {
-      {Qt::Key_Down, "select 1,1 "}, {Qt::Key_Down, "select 2,1 "},
-      {Qt::Key_Up, "select 1,1 "},   {Qt::Key_Up, ""},
-      {Qt::Key_End, "select 60,1 "}, {Qt::Key_Down, ""},
-      {Qt::Key_Home, "select 1,1 "},
-  };
-  for (const auto& [pressed, expected] : steps) {
-    key(pressed);
-    EXPECT_EQ(heard(), expected) << "key " << pressed;
-  }
 }
 
 TEST_F(ServerGridViewTest, the_selection_survives_sorting_grouping_folding_and_hiding) {
@@ -157,23 +109,6 @@ TEST_F(ServerGridViewTest, a_header_groups_or_moves_where_it_is_dragged_to_and_d
   dragHeader(map, view.header(), {20, 10});
   EXPECT_EQ(view.header().visualIndex(map - 1), 0);
   EXPECT_EQ(view.header().sortIndicatorSection(), -1);
-}
-
-TEST_F(ServerGridViewTest, grouping_ends_when_the_chip_is_dragged_back_double_clicked_or_closed) {
-  addMany(6);
-  view.groupBy(map);
-  GroupingBar& bar = view.groupingBar();
-  const QPoint chip = bar.chipRect().topLeft() + QPoint(8, 8);
-  drag(bar, chip, chip + QPoint(200, 0));
-  EXPECT_EQ(rowsShown(), 8) << "still inside the bar";
-  drag(bar, chip, bar.mapFromGlobal(view.header().mapToGlobal(QPoint(60, 5))));
-  EXPECT_EQ(rowsShown(), 6);
-  view.groupBy(map);
-  QTest::mouseDClick(&bar, Qt::LeftButton, {}, chip);
-  EXPECT_EQ(rowsShown(), 6);
-  view.groupBy(map);
-  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.closeRect().center());
-  EXPECT_EQ(rowsShown(), 6);
 }
 
 TEST_F(ServerGridViewTest, groups_fold_by_arrow_double_click_and_keys_and_stay_folded) {

@@ -96,20 +96,6 @@ TEST_F(FavesListTest, keys_select_only_enter_or_the_space_bar_clicks_and_no_othe
   EXPECT_EQ(list.selected(), 2);
 }
 
-TEST_F(FavesListTest, an_item_without_a_name_says_so_and_one_without_anything_does_not_look_broken) {
-  list.setName(1, " \t");
-  list.setName(2, "");
-  list.add({});
-  list.add({"", "secret", "", ""});
-  view.showChanges();
-  const QString titles[] = {"(no name)", "(no name)", "Two lines <b>&amp;", "(empty)", "(no name)"};
-  for (int number = 1; number <= 5; ++number) {
-    EXPECT_EQ(shown(number), titles[number - 1]);
-    EXPECT_EQ(item(number).data(FavesListModel::namelessRole).toBool(), number != 3);
-    EXPECT_TRUE(shown(number, Qt::AccessibleTextRole).startsWith(titles[number - 1]));
-  }
-}
-
 TEST_F(FavesListTest, a_double_click_is_one_click_and_one_wish_to_edit_and_keys_ask_once_however_long_they_are_held) {
   const QPoint second = view.visualRect(item(2)).center();
   click(2);
@@ -126,54 +112,6 @@ TEST_F(FavesListTest, a_double_click_is_one_click_and_one_wish_to_edit_and_keys_
   EXPECT_EQ(asked, "eer");
   QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "192.0.2.2:2302");
-}
-
-TEST_F(FavesListTest, the_keys_go_on_where_the_selected_item_was_when_it_is_gone) {
-  list.select(2);
-  for (const int next : {2, 1}) {  // The third has moved up; then there is none behind the gap.
-    QTest::keyClick(&view, Qt::Key_Delete);
-    EXPECT_EQ(highlighted(), 0);
-    EXPECT_EQ(list.selected(), 0);
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_EQ(list.selected(), next);
-    EXPECT_EQ(highlighted(), next);
-  }
-  QTest::keyClick(&view, Qt::Key_Delete);
-  QTest::keyClick(&view, Qt::Key_Down);
-  EXPECT_EQ(list.selected(), 0);
-}
-
-TEST_F(FavesListTest, letters_typed_select_the_next_item_whose_name_begins_so_also_with_a_blank_in_it) {
-  list.add({"", "", "192.0.2.4:2302", "Two"});
-  list.add({"", "", "192.0.2.5:2302", "two more"});
-  QTest::keyClicks(&view, "two m");
-  EXPECT_EQ(list.selected(), 5);
-  EXPECT_EQ(highlighted(), 5);
-  EXPECT_TRUE(clicks.empty());
-}
-
-TEST_F(FavesListTest, two_thousand_items_come_up_in_one_go) {
-  int insertions = 0;
-  QObject::connect(view.model(), &QAbstractItemModel::rowsInserted, &view, [&insertions] { ++insertions; });
-  for (int i = 0; i < 2000; ++i) {
-    list.add({"Race", "", "192.0.2.9:2302", "Server " + std::to_string(i)});
-  }
-  ASSERT_TRUE(QTest::qWaitFor([this] { return view.model()->rowCount() == 2003; }));
-  EXPECT_EQ(insertions, 1);
-  EXPECT_EQ(shown(2003), "Server 1999");
-}
-
-TEST_F(FavesListTest, being_shown_leaves_the_current_item_and_the_selection_as_they_are_and_an_empty_list_says_so) {
-  list.makeCurrent(2);
-  list.select(3);
-  list.setGametype(1, "King");
-  view.showChanges();
-  EXPECT_EQ(shown(1, FavesListModel::gametypeRole), "King");
-  EXPECT_EQ(list.current().name, "Second");
-  EXPECT_EQ(list.selected(), 3);
-  list.clear();
-  view.showChanges();
-  EXPECT_EQ(view.accessibleDescription(), "Nothing yet.");
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QListWidget>
 #include <QTest>
 #include <string>
 
@@ -71,23 +70,6 @@ TEST_F(FavesPageTest, a_button_that_goes_off_under_a_key_keeps_the_second_press_
   QTest::keyClick(add, Qt::Key_Space);
   EXPECT_EQ(run, "a");
   EXPECT_TRUE(add->hasFocus());
-}
-
-TEST_F(FavesPageTest, texts_without_end_leave_the_editor_as_it_is) {
-  auto* const lines = editor.findChild<QListWidget*>("List1");
-  auto* const type = editor.findChild<QWidget*>("cmbGameType");
-  const auto places = [&] { return QList{lines->geometry(), type->geometry(), lines->parentWidget()->geometry()}; };
-  QCoreApplication::processEvents();
-  const QList<QRect> before = places();
-  const std::string endless(10'000, 'w');
-  for (TextBox* const box : {&model.txtID, &model.txtServerName, &model.txtIP2, &model.txtPort2, &model.txtPass}) {
-    box->text.set(endless);
-  }
-  model.cmbGameType.text.set(endless);
-  model.List1.add(endless);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(places(), before);
-  EXPECT_LE(lines->visualItemRect(lines->item(0)).right(), lines->viewport()->width());
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 #include <sys/stat.h>
 
 #include <QFile>
-#include <QPainter>
 #include <QPalette>
-#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
@@ -119,21 +117,6 @@ TEST_F(FavesPictureTest, no_other_file_is_one_and_none_holds_its_reader_up) {
   EXPECT_TRUE(readPicture(saved(Qt::red, "a.bmp"), screen, [] { return true; }).isNull());
 }
 
-TEST_F(FavesPictureTest, it_has_a_pixel_of_its_own_for_each_of_a_fine_screen) {
-  const QImage fine = checkerboard(Qt::black, QColor(20, 20, 20), {60, 40});
-  ASSERT_TRUE(fine.save(folder.filePath("s.bmp")));
-  Field<std::string> chosen(path("s.bmp"));
-  FavesPicture picture(chosen);
-  QImage canvas(60, 40, QImage::Format_RGB32);
-  canvas.setDevicePixelRatio(2);
-  EXPECT_TRUE(QTest::qWaitFor([&] {
-    canvas.fill(Qt::white);
-    QPainter painter(&canvas);
-    picture.paint(painter, {30, 20}, inksOf(paletteOf(Qt::white, Qt::black)));
-    return painter.end() && canvas == fine;
-  }));
-}
-
 // A list on the screen; dark colours, so that a dark picture is seen as it is.
 struct FavesListPictureTest : FavesPictureTest {
   FavesListPictureTest() {
@@ -169,25 +152,6 @@ TEST_F(FavesListPictureTest, a_file_that_is_no_picture_leaves_the_one_on_show_an
   EXPECT_FALSE(QTest::qWaitFor([this] { return view->grab().toImage().pixelColor(190, 190) != Qt::black; }, 100));
   list.picture.set(saved(red, "large", "jpeg", {3000, 3000}));
   view.reset();
-}
-
-TEST_F(FavesListPictureTest, the_picture_stands_still_while_the_items_move_and_fills_the_list_in_its_new_size) {
-  QImage halves(400, 400, QImage::Format_RGB32);
-  halves.fill(red);
-  QPainter(&halves).fillRect(0, 200, 400, 200, green);
-  ASSERT_TRUE(halves.save(folder.filePath("halves"), "bmp"));
-  list.picture.set(path("halves"));
-  for (int i = 0; i < 100; ++i) {
-    list.add({});
-  }
-  view->showChanges();
-  const auto column = [this](int y) { return view->grab().toImage().pixelColor(3, y); };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return column(90) == red && column(110) == green; }));
-  view->verticalScrollBar()->setValue(57 * view->visualRect(view->model()->index(0, 0)).height());
-  EXPECT_EQ(column(90), red);
-  EXPECT_EQ(column(110), green);
-  view->resize(200, 400);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return column(190) == red && column(215) == green; }));
 }
 
 }  // namespace

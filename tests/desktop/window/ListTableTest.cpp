@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -33,18 +32,6 @@ TEST_F(ListTableTest, what_strangers_write_is_one_plain_line_and_no_markup) {
   EXPECT_EQ(shown(0, 1), "<b>bold</b>");
   const QString toolTip = table.model()->index(0, 1).data(Qt::ToolTipRole).toString();
   EXPECT_TRUE(toolTip.contains("&lt;b&gt;bold"));
-}
-
-TEST_F(ListTableTest, ten_thousand_rows_come_at_once_and_appear_together) {
-  QElapsedTimer clock;
-  clock.start();
-  for (int i = 0; i < 10'000; ++i) {
-    add("name", "value");
-  }
-  EXPECT_EQ(shownRows(), 0);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return shownRows() == 10'000; }, 3000));
-  EXPECT_EQ(shown(9'999, 1), "value");
-  EXPECT_LT(clock.elapsed(), 2000);
 }
 
 TEST_F(ListTableTest, selected_rows_are_copied_in_their_order_with_tabs_and_one_that_comes_again_stays_selected) {

@@ -5,7 +5,6 @@
 #include <QCursor>
 #include <QFontMetrics>
 #include <QLabel>
-#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -47,11 +46,6 @@ QStringList textsOn(const QWidget* notice) {
 QStringList popMsgTexts() {
   const QWidgetList shown = onScreen("popMsg");
   return shown.isEmpty() ? QStringList() : textsOn(shown.first());
-}
-
-void putMouseOn(QWidget* notice) {
-  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-  QApplication::sendEvent(notice, &enter);
 }
 
 struct NoticesTest : ::testing::Test {
@@ -141,52 +135,6 @@ TEST_F(NoticesTest, a_short_message_returns_at_once_leaves_the_focus_alone_and_g
   EXPECT_EQ(onScreen("popMsg").size(), 1);
   QTest::mouseClick(onScreen("popMsg").first(), Qt::LeftButton);
   EXPECT_TRUE(popMsgTexts().isEmpty());
-}
-
-TEST_F(NoticesTest, a_message_stays_while_the_mouse_is_on_it_and_then_has_its_whole_time) {
-  briefNotices.ShowPopMsg("one");
-  QWidget* const notice = onScreen("popMsg").first();
-  putMouseOn(notice);
-  briefNotices.ShowPopMsg("two");
-  loop.wait(2 * shortTime);
-  EXPECT_EQ(popMsgTexts(), QStringList{"two"});
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(notice, &leave);
-  loop.wait(shortTime / 2);
-  EXPECT_TRUE(notice->isVisible());
-  loop.wait(shortTime);
-  EXPECT_FALSE(notice->isVisible());
-}
-
-TEST_F(NoticesTest, the_program_can_wait_until_a_message_was_seen_but_no_longer_with_a_mouse_that_holds_it) {
-  notices.waitForNotice();  // With nothing on the screen there is nothing to wait for.
-  for (const bool held : {false, true}) {
-    const int time = timeOf([&] {
-      briefNotices.ShowPopMsg("Vantrel CE is already running");
-      held ? putMouseOn(onScreen("popMsg").first()) : void();
-      briefNotices.waitForNotice();
-    });
-    EXPECT_TRUE(time >= shortTime - 5 && time < shortTime + 2000) << time;
-  }
-}
-
-TEST_F(NoticesTest, no_text_makes_a_notice_leave_the_screen) {
-  std::string everyByte(256, '\0');
-  std::iota(everyByte.begin(), everyByte.end(), '\0');
-  for (const std::string& text : {std::string(), std::string(10'000, 'W'), std::string(10'000, '\n'), everyByte}) {
-    notices.ShowPopMsg(text);
-    EXPECT_TRUE(screen.contains(onScreen("popMsg").first()->geometry())) << text.substr(0, 4);
-    for (const QPoint& corner : {screen.topLeft(), screen.topRight(), screen.bottomLeft(), screen.bottomRight()}) {
-      QCursor::setPos(corner);
-      QTimer::singleShot(0, [&] {
-        QWidget* const balloon = onScreen("balloon").first();
-        EXPECT_TRUE(screen.contains(balloon->geometry())) << text.substr(0, 4);
-        EXPECT_FALSE(balloon->geometry().intersects(onScreen("popMsg").first()->geometry())) << text.substr(0, 4);
-        balloon->hide();
-      });
-      notices.popUpBalloon(text, text);
-    }
-  }
 }
 
 TEST(NoticeLayout, a_text_breaks_at_blanks_where_it_can_anywhere_where_it_must_and_ends_in_an_ellipsis) {

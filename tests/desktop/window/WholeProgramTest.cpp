@@ -127,47 +127,6 @@ TEST_F(WholeProgram, a_press_of_the_button_shows_every_server_that_answers_as_it
   EXPECT_TRUE(program.model().tmrPing.enabled());
 }
 
-TEST_F(WholeProgram, every_address_of_the_list_is_asked_exactly_once_dead_ones_among_them_or_not) {
-  press();
-  ASSERT_TRUE(runUntil([this] { return sweepIsOver(); }));
-  std::map<std::string, int> asked;
-  for (const sandbox::LogEntry& entry : world.log().entries()) {
-    if (entry.event == sandbox::LogEvent::QueryReceived) {
-      ++asked[entry.to];
-      EXPECT_EQ(entry.text, "\\status");
-    }
-  }
-  for (const sandbox::GameServer& server : world.servers()) {
-    if (server.behaviour != sandbox::Behaviour::Closed) {
-      EXPECT_EQ(asked[server.endpoint.text()], 1) << server.endpoint.text();
-    }
-  }
-}
-
-TEST_F(WholeProgram, the_server_cache_holds_each_row_when_the_program_ends) {
-  press();
-  ASSERT_TRUE(runUntil([this] { return sweepIsOver(); }));
-  ASSERT_TRUE(runUntil([this] { return QFile::exists(folder.filePath("servers.ini")); }));
-  ASSERT_TRUE(runUntil([this] {  // The last rows go to disk a second after the last change.
-    const DiskFiles files;
-    const ProfileFile cache(files.read(folder.filePath("servers.ini").toStdString()));
-    for (int row = 1; row <= program.model().grdServers.rowCount(); ++row) {
-      if (cache.value(std::to_string(row), "ip") != program.model().grdServers.cellText(row, 3)) {
-        return false;
-      }
-    }
-    return true;
-  }));
-}
-
-TEST_F(WholeProgram, rows_appear_while_the_list_is_still_being_walked) {
-  press();
-  EXPECT_TRUE(runUntil([this] {
-    return program.progress().walking.get() && program.model().grdServers.rowCount() > 3 &&
-           program.progress().asked.get() < 50;
-  }));
-}
-
 TEST_F(WholeProgram, a_second_press_in_the_middle_of_a_walk_starts_over_and_doubles_nothing) {
   press();
   ASSERT_TRUE(runUntil([this] { return program.model().grdServers.rowCount() >= 10; }));
