@@ -5,6 +5,7 @@
 
 #include "core/FailureStyles.h"
 #include "core/Numbers.h"
+#include "core/PathText.h"
 #include "core/Text.h"
 #include "core/modReg.h"
 
@@ -23,7 +24,8 @@ std::string switchText(const CheckBox& box, const char* text) {
 GameLaunch::GameLaunch(const Context& context) : c_(context) {
   addCommand();
   c_.wsPass.onArrival([this](const Datagram& datagram) { arrive(datagram); });
-  c_.wsPass.onError([this](const Failure& failure, const std::string&, int) { handleError(failure); });
+  c_.wsPass.onError(
+      [this](const Failure& failure, const std::string& ip, int port) { handleError(failure, ip, port); });
 }
 
 GameLaunch::~GameLaunch() {
@@ -48,7 +50,9 @@ void GameLaunch::JoinCheck() {
   const std::string& ip = c_.mainWindow.txtIP.text.get();
   const std::string& port = c_.mainWindow.txtPort.text.get();
   if (!ip.empty() && !port.empty()) {
-    c_.wsPass.send(std::string(trimBlanks(ip)), toPort(port), checkQuery);
+    checkedIp_ = trimBlanks(ip);
+    checkedPort_ = toPort(port);
+    c_.wsPass.send(checkedIp_, checkedPort_, checkQuery);
     checking_ = true;
   }
 }
@@ -65,8 +69,10 @@ void GameLaunch::arrive(const Datagram& datagram) {
   }
 }
 
-void GameLaunch::handleError(const Failure& failure) {
-  if (failure.number == failures::connectionReset().number && std::exchange(checking_, false)) {
+// The refusal of a server that was to be joined before says nothing of this one.
+void GameLaunch::handleError(const Failure& failure, const std::string& ip, int port) {
+  const bool isChecked = ip == checkedIp_ && port == checkedPort_;
+  if (failure.number == failures::connectionReset().number && isChecked && std::exchange(checking_, false)) {
     c_.mainWindow.cmdMenu[command::autoJoinOn].value.set(0);
     c_.notices.ShowPopMsg("Server may not be up anymore. Launching Halo CE.");
     launch(nullptr);
@@ -147,7 +153,7 @@ void GameLaunch::startGame(const std::string& passArg) {
                                            .priority = ProcessPriority::high}));
       },
       [&](const Failure&) {
-        c_.notices.ShowPopMsg("Unable to launch game \r\nDirectory: " + dir + "\r\nExe: " + gameProgram);
+        c_.notices.ShowPopMsg("Unable to launch game \r\nDirectory: " + pathText(dir) + "\r\nExe: " + gameProgram);
       });
 }
 

@@ -44,7 +44,7 @@ class GameLaunch {
   void addCommand();
   void JoinCheck();
   void arrive(const Datagram& datagram);
-  void handleError(const Failure& failure);
+  void handleError(const Failure& failure, const std::string& ip, int port);
   void minimizeBuddies();
   // Without a datagram the server has refused, and nothing is known of it.
   void launch(const Datagram* datagram);
@@ -55,6 +55,8 @@ class GameLaunch {
 
   Context c_;
   bool checking_ = false;  // a check was sent, and nothing has come back yet
+  std::string checkedIp_;
+  int checkedPort_ = 0;
 };
 
 }  // namespace vantrel

@@ -1,7 +1,6 @@
 #include "join/SlotWatch.h"
 
 #include <string>
-#include <utility>
 
 #include "core/FailureStyles.h"
 #include "core/Numbers.h"
@@ -28,14 +27,18 @@ void SlotWatch::connectPrompt() {
 
 void SlotWatch::connectStops() {
   frmMain& window = c_.mainWindow;
-  const auto stop = [this] { waiting_ = false; };
   for (TextBox* const box : {&window.txtIP, &window.txtPort}) {
     connections_.push_back(box->text.changed.connect([this] {
       waiting_ = false;
       closePrompt();
     }));
   }
-  connections_.push_back(window.picScore.visible.changed.connect(stop));
+  Field<bool>& detailShows = window.picScore.visible;
+  connections_.push_back(
+      detailShows.changed.connect([this, &detailShows] { waiting_ = waiting_ && detailShows.get(); }));
+  // A game that has been started is the end of all waiting, whatever started it.
+  Field<std::string>& game = window.lblProcess.caption;
+  connections_.push_back(game.changed.connect([this, &game] { waiting_ = waiting_ && game.get().empty(); }));
   Field<int>& chosen = window.cmdMenu[command::autoJoinOn].value;
   connections_.push_back(chosen.changed.connect([this, &chosen] { waiting_ = waiting_ && chosen.get() != 0; }));
 }
@@ -53,13 +56,12 @@ bool SlotWatch::holdBack() {
 
 // Without a detail page on show nothing would be asked again.
 void SlotWatch::answerYes() {
-  const ServerLoad asked = last_;
   closePrompt();
   c_.commands.clickIt(command::autoJoinOn);
+  waiting_ = true;
   if (!c_.mainWindow.picScore.visible.get()) {
     c_.commands.clickIt(command::queryServer);
   }
-  waiting_ = isCurrent(asked);
 }
 
 void SlotWatch::answerNo() {
@@ -83,15 +85,16 @@ bool SlotWatch::isCurrent(const ServerLoad& load) const {
 
 void SlotWatch::hear(const ServerLoad& load) {
   last_ = load;
-  if (joining_ || !waiting_ || !isCurrent(load) || load.isFull() || c_.game.running()) {
+  if (joining_ || !waiting_ || !isCurrent(load) || load.isFull() || !c_.mainWindow.picScore.visible.get() ||
+      c_.game.running()) {
     return;
   }
   joining_ = true;
   c_.notices.ShowPopMsg(c_.mainWindow.lblData.caption.get() + "\r\n has an open spot!");
   c_.sound.play(c_.prompt.txtWav.text.get());
   joining_ = false;
-  // The user may have ended the waiting while the sound was heard.
-  if (std::exchange(waiting_, false)) {
+  // While the sound was heard the waiting may have ended, or the slot been taken.
+  if (waiting_ && !isFull()) {
     join();
   }
 }

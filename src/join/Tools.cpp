@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/FailureStyles.h"
+#include "core/PathText.h"
 #include "core/Text.h"
 
 namespace vantrel {
@@ -43,7 +44,7 @@ void Tools::LoadTools() {
       },
       [&](const Failure& failure) {
         if (failure.number == failures::pathNotFound().number) {
-          lstApps.path.set(c_.folder.path("\\"));
+          lstApps.path.set(c_.folder.path(""));
           lstApps.pattern.set(noToolPattern);
           lstApps.files.clear();
           c_.mainWindow.cmdMenu[command::launchTool].enabled.set(false);
@@ -74,7 +75,8 @@ void Tools::LaunchTool() {
         c_.processes.close(started.thread);
       },
       [&](const Failure&) {
-        c_.notices.ShowPopMsg("Unable to launch plugin \r\nDirectory: " + dir + "\r\nExe: " + tool.substr(name));
+        c_.notices.ShowPopMsg("Unable to launch plugin \r\nDirectory: " + pathText(dir) +
+                              "\r\nExe: " + pathText(tool.substr(name)));
       });
 }
 

@@ -86,7 +86,10 @@ TEST_F(SlotWatchTest, what_ends_the_waiting_or_holds_it_up) {
        [](SlotWatchTest& w) {
          w.tellPlayers(1, "198.51.100.1");
          w.tellPlayers(16);
-         w.mainWindow.txtPort.text.set("2303");
+         w.wsHaloData.receive(0,
+                              {"\\hostname\\Fun\\numplayers\\1\\maxplayers\\16\\player_flags\\0,0", "192.0.2.1", 2303});
+         w.loop.wait(0);
+         w.commands.clickIt(0);
        },
        0},
       {"a game that runs",
@@ -96,10 +99,14 @@ TEST_F(SlotWatchTest, what_ends_the_waiting_or_holds_it_up) {
        0},
       {"the page left while the sound is heard",
        [](SlotWatchTest& w) { w.sound.duringSound = [&w] { w.commands.clickIt(9); }; }, 0},
-      {"auto join chosen anew",
+      {"auto join chosen on its page",
        [](SlotWatchTest& w) {
-         w.commands.clickIt(0);
-         w.commands.clickIt(10);
+         for (const int number : {0, 5, 10}) {
+           w.commands.clickIt(number);
+         }
+         w.tellPlayers(15);
+         w.tellPlayers(16);
+         w.commands.clickIt(2);
        },
        1},
   };
@@ -113,6 +120,22 @@ TEST_F(SlotWatchTest, what_ends_the_waiting_or_holds_it_up) {
     world.tellPlayers(15);
     EXPECT_EQ(world.wsPass.sent, story.launches);
   }
+}
+
+TEST_F(SlotWatchTest, what_ends_the_waiting_in_the_middle_of_yes_or_of_the_sound_starts_no_game_later) {
+  tellPlayers(16);
+  commands.clickIt(9);
+  commands.clickIt(18);
+  loop.startTimer(100, TimerKind::once, [this] { commands.clickIt(0); });
+  prompt.yesClicked.fire();
+  EXPECT_TRUE(mainWindow.picScore.visible.get());
+  tellPlayers(15);
+  EXPECT_EQ(wsPass.sent, 0);
+  waitForSlot();
+  sound.duringSound = [this] { gameWatch.watch({1, 2, 3, 3}); };
+  tellPlayers(15);
+  gameWatch.watch({});
+  EXPECT_EQ(wsPass.sent, 0);
 }
 
 }  // namespace

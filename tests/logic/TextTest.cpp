@@ -1,3 +1,4 @@
+#include "core/PathText.h"
 #include "core/Text.h"
 
 #include <gtest/gtest.h>
@@ -87,6 +88,11 @@ TEST(Numbers, a_count_is_16_bit_and_a_half_goes_to_the_even_neighbour) {
   }
   EXPECT_EQ(addInteger16(32766, 1), 32767);
   EXPECT_EQ(failureOf([] { addInteger16(32767, 1); }), 6);
+}
+
+TEST(PathText, a_path_reads_in_the_code_page_as_it_does_on_the_system) {
+  EXPECT_EQ(pathText("/a\xC3\xA4\xE2\x82\xAC/\xE6\x97\xA5\xF0\x9F\x98\x80"), "/a\xE4\x80/??");
+  EXPECT_EQ(pathText("\xE4/\xC3"), "\xE4/\xC3");
 }
 
 }  // namespace

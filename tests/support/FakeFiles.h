@@ -89,7 +89,7 @@ class FakeFiles : public Files {
   bool full = false;
   std::set<std::string> unreadable;
   std::set<std::string> programs;  // files with the right to be executed
-  std::size_t replacedBytes = 0;  // written by `replace`
+  std::size_t replacedBytes = 0;   // written by `replace`
   int replacements = 0;
 
  private:

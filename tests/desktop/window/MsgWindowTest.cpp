@@ -65,14 +65,5 @@ TEST_F(MsgWindowTest, it_comes_up_in_the_middle_of_its_owner_but_on_the_screen_w
   }
 }
 
-TEST_F(MsgWindowTest, while_the_game_is_launched_that_is_told_in_place_of_the_answers_and_the_tick_is_the_models) {
-  model.cmdLaunch.visible.set(true);
-  for (const char* const name : {"cmdYes", "cmdNo", "cmdLaunch"}) {
-    EXPECT_EQ(window.findChild<QPushButton*>(name)->isVisible(), name == std::string("cmdLaunch"));
-  }
-  window.findChild<QCheckBox*>("chkMsg")->click();
-  EXPECT_TRUE(model.chkMsg.isChecked());
-}
-
 }  // namespace
 }  // namespace vantrel
