@@ -37,7 +37,11 @@ Program::Program(Site site, const Version& version, const Places& places)
       detailQuery_({wsHaloData_, loop_, frmMain_, commands_, notices_, detailView_, modPingList_,
                     [this](const std::string& someTab) { pages_.showTab(someTab); },
                     [this](const std::string& mapFile) { mapCheck_.checkMap(mapFile); }}),
-      playerList_(storeContext_, stores_, popupMenu_),
+      playerSearch_({frmMain_, frmPlayers_, commands_, notices_, dialogs_}),
+      buddyList_({storeContext_, stores_, rewrites_, commands_, popupMenu_}),
+      playerList_(
+          frmMain_, notices_, popupMenu_,
+          [this](const std::string& name, const std::string& lastserver) { buddyList_.addPlayer(name, lastserver); }),
       modMirc_(frmMain_, mirc_, site_, version),
       gameWatch_(frmMain_, frmBuddies_, processes_, notices_, modMirc_),
       slotWatch_({frmMain_, frmMsg_, commands_, notices_, sound_, gameWatch_, detailQuery_, autoSwitches_}),
@@ -54,15 +58,30 @@ Program::Program(Site site, const Version& version, const Places& places)
                     .handOverLink = {}}),
       splashWindow_(frmSplash_),
       window_(frmMain_, commands_, progress_, frmMsg_),
-      msgWindow_(frmMsg_, &window_) {
+      msgWindow_(frmMsg_, &window_),
+      buddiesWindow_(frmBuddies_, &window_),
+      playersWindow_(frmPlayers_, &window_) {
   frmMain_.txtFAQ.caption.set(helpText());
   commands_.add(command::getServerList, [this] { exchange_.start(); });
   commands_.add(command::locateGame, [this] { gameFolder_.locate(); });
   frmMsg_.txtWav.text.set(openSlotSound(places.appDir));
   startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
   startAndEnd_.addWindow([this] { frmMsg_.visible.set(false); });
+  connectPlayers();
   keepColumns();
   connectEnd();
+}
+
+void Program::connectPlayers() {
+  connections_.push_back(sweep_.playerSeen.connect([this](const SeenPlayer& player) {
+    const std::string address = player.ip + ":" + std::to_string(player.port);
+    playerSearch_.matchPlayer(player.name, address);
+    buddyList_.matchPlayer(player.name, address);
+  }));
+  startAndEnd_.addWindow([this] {
+    buddyList_.saveNow();
+    frmBuddies_.visible.set(false);
+  });
 }
 
 // The columns of the server list are the view's alone; of the rest of the program only the settings know them, as a

@@ -5,9 +5,11 @@
 
 #include "app/Places.h"
 #include "appearance/WindowLayout.h"
+#include "browser/BuddyList.h"
 #include "browser/Favorites.h"
 #include "browser/InputBoxes.h"
 #include "browser/Pages.h"
+#include "browser/PlayerSearch.h"
 #include "browser/ServerList.h"
 #include "core/AppFolder.h"
 #include "core/Commands.h"
@@ -32,8 +34,10 @@
 #include "desktop/adapters/QtPopupMenu.h"
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
+#include "desktop/window/BuddiesWindow.h"
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/MsgWindow.h"
+#include "desktop/window/PlayersWindow.h"
 #include "desktop/window/SplashWindow.h"
 #include "join/AutoSwitches.h"
 #include "join/GameLaunch.h"
@@ -58,6 +62,9 @@ class Program {
 
   MainWindow& window() { return window_; }
   frmMain& model() { return frmMain_; }
+  frmBuddies& buddies() { return frmBuddies_; }
+  frmPlayers& players() { return frmPlayers_; }
+  Commands& commands() { return commands_; }
   SweepProgress& progress() { return progress_; }
   Sweep& sweep() { return sweep_; }
   QtLoop& loop() { return loop_; }
@@ -71,6 +78,7 @@ class Program {
   void end();
 
  private:
+  void connectPlayers();
   void keepColumns();
   void connectEnd();
 
@@ -117,6 +125,8 @@ class Program {
   MapCheck mapCheck_;
   modPingList modPingList_;
   DetailQuery detailQuery_;
+  PlayerSearch playerSearch_;
+  BuddyList buddyList_;
   PlayerList playerList_;
   modMirc modMirc_;
   GameWatch gameWatch_;
@@ -129,6 +139,8 @@ class Program {
   SplashWindow splashWindow_;
   MainWindow window_;
   MsgWindow msgWindow_;
+  BuddiesWindow buddiesWindow_;
+  PlayersWindow playersWindow_;
   std::vector<Connection> connections_;
 };
 

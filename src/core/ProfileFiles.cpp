@@ -182,6 +182,10 @@ void ProfileFiles::dropDraft(const std::string& file) {
   entries_.erase(file + ".draft");
 }
 
+bool ProfileFiles::isDrafted(const std::string& file) const {
+  return entries_.contains(file + ".draft");
+}
+
 void ProfileFiles::commitDraft(const std::string& file) {
   Entry& held = entries_[file];
   if (entries_[file + ".draft"].content.size() == 0 && !exists(file)) {

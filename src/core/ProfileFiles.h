@@ -55,6 +55,8 @@ class ProfileFiles {
   // Returns that name, for use with the calls above. One draft a file: beginning anew empties it.
   std::string beginDraft(const std::string& file);
   void dropDraft(const std::string& file);
+  // True between the beginning of a draft and its end.
+  bool isDrafted(const std::string& file) const;
   // Makes the draft the content of the file, on disk at once or, where that fails, by the next try.
   // A file that could not be read keeps its content under another name. REQUIRES: beginDraft.
   void commitDraft(const std::string& file);

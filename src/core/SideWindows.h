@@ -1,6 +1,7 @@
 // The state of the windows beside the main one.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "core/WindowState.h"
@@ -11,16 +12,45 @@
 namespace vantrel {
 
 struct frmBuddies {
+  enum Command : int { add = 0, remove = 1, find = 2 };
+
+  frmBuddies() {
+    cmdMenu[add].caption.set("Add");
+    cmdMenu[remove].caption.set("Delete");
+  }
+
   Field<bool> visible{false};
   Field<WindowState> windowState{WindowState::normal};
+  Field<std::string> caption{"My Buddy List"};
+  TextBox txtBuddy;  // the name to add or to look for
+  std::array<Button, 3> cmdMenu;
   FavoritesList myFaves1;  // a buddy's name in `name`, the server where he was last seen in `hostname`
+
+  Signal<int> pressed;  // number of a button; fired by a view, as is `closed`
+  Signal<> closed;
+  Signal<> focusLeft;  // fired by the logic: the main window takes the focus
 };
 
+// The players that a search has found. A line is a name, a TAB and "ip:port".
 struct frmPlayers {
+  static constexpr const char* atRest = "Not querying servers.";
+
+  frmPlayers() {
+    lblStatus.caption.set(atRest);
+    cmdShow.caption.set("Show Player");
+    cmdShow.enabled.set(false);
+  }
+
   Field<bool> visible{false};
-  ListBox lstPlayers;  // the players found
+  Field<std::string> caption{"      Vantrel - Player Search"};
+  ListBox lstPlayers;
   Label lblSearchfor;
   Label lblStatus;
+  Button cmdShow;  // "Show Player"
+
+  Signal<> lineClicked;  // behind the selection; fired by a view, as are the two below
+  Signal<> showPressed;
+  Signal<> closed;
 };
 
 struct frmMirror {

@@ -47,6 +47,9 @@ void modFavesIni::LoadBuddies() {
     return;
   }
   const std::string file = c_.folder.path("\\buddies.ini");
+  if (c_.profiles.isDrafted(file)) {
+    return;
+  }
   const std::int16_t count = readCount(file, buddiesFormat);
   for (int i = 1; i <= count; ++i) {
     const std::string section = std::to_string(i);

@@ -55,7 +55,8 @@ class modFavesIni {
 
   // Appends the items of favorites.ini to the favorites list.
   void LoadFaves();
-  // Fills the buddy list from buddies.ini, but only when it is empty.
+  // Fills the buddy list from buddies.ini, but only when it is empty. While the file is being rewritten from the list,
+  // the list is right as it is.
   void LoadBuddies();
   // Appends the mirrors of mirrors.ini to the mirror list, each with a slash at its end; texts too short are left out.
   void LoadMirrors();

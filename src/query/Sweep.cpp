@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* statusQuery = "\\status";
 constexpr int pauseInReply = 10;  // milliseconds
+constexpr int countStays = 3000;  // milliseconds
 
 // No server's reply is longer than this; of replies that are, a list takes so many bytes whole and then cuts them.
 // Thousands of them, thrown at the program to fill memory and disk, come to no more than thousands of real ones.
@@ -83,7 +84,16 @@ Sweep::Sweep(const Context& context) : c_(context) {
 }
 
 Sweep::~Sweep() {
+  c_.loop.stopTimer(rest_);
   c_.ws2.onArrival({});
+}
+
+// The count stands for a while behind the last reply.
+void Sweep::showSearch(const Reply& reply) {
+  c_.players.lblStatus.caption.set(std::to_string(reply.row()) + " servers queried.");
+  c_.loop.stopTimer(rest_);
+  rest_ =
+      c_.loop.startTimer(countStays, TimerKind::once, [this] { c_.players.lblStatus.caption.set(frmPlayers::atRest); });
 }
 
 void Sweep::QueryServer(const std::string& ip, int port) {
@@ -117,7 +127,7 @@ void Sweep::handleReply(const Datagram& datagram) {
   }
   window.tmrPing.switchOn();
   if (fate == RowFate::shown && c_.players.visible.get()) {
-    step([&] { c_.players.lblStatus.caption.set(std::to_string(reply.row()) + " servers queried."); });
+    step([&] { showSearch(reply); });
   }
   window.txtPlayer.enabled.set(true);
   if (fate == RowFate::shown) {

@@ -59,12 +59,14 @@ class Sweep {
   void gather(Reply& reply, const SkippingSteps& step);
   void gatherElement(Reply& reply, int i, const SkippingSteps& step);
   void showCount(const Reply& reply);
+  void showSearch(const Reply& reply);
   RowFate showRow(Reply& reply);
   void writeCache(const Reply& reply);
 
   Context c_;
   std::size_t oversizedBytes_ = 0;         // of the replies that this list has taken whole though they were too long
   std::uint32_t oversizedGeneration_ = 0;  // of the list that they went to
+  TimerId rest_ = 0;                       // to the moment when the search's status says that there is no sweep
 };
 
 }  // namespace vantrel

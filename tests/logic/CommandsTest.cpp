@@ -83,7 +83,7 @@ TEST(Pages, a_detail_page_is_opened_by_its_name_and_the_players_by_any_other) {
   }
 }
 
-TEST(Commands, every_command_hides_the_hint_about_buddies_and_four_of_them_end_auto_refresh) {
+TEST(Commands, every_command_hides_the_hint_about_buddies_and_leaving_the_detail_pages_ends_auto_refresh) {
   for (int number = 0; number <= 42; ++number) {
     World world;
     world.settings.setParameter("AutoRefresh", "1");
@@ -92,7 +92,7 @@ TEST(Commands, every_command_hides_the_hint_about_buddies_and_four_of_them_end_a
     world.dialogs.answers = {std::nullopt};
     world.commands.clickIt(number);
     EXPECT_EQ(world.mainWindow.cmdMenu[42].visible.get(), number == 2) << number;
-    const bool ends = number == 5 || number == 6 || number == 7 || number == 9 || number == 31;
+    const bool ends = (number >= 5 && number <= 9) || number == 31;
     EXPECT_EQ(world.mainWindow.tmrRefresh.enabled(), !ends) << number;
     EXPECT_EQ(world.setting("AutoRefresh"), ends ? "0" : "1") << number;
   }

@@ -112,12 +112,13 @@ TEST_F(SweepTest, each_reply_goes_to_the_server_cache_as_it_is_shown_and_older_s
 
 TEST_F(SweepTest, pings_come_eleven_seconds_after_the_first_reply_and_an_open_search_window_is_told_the_number) {
   replyAndWait(statusReply("Fun"));
-  EXPECT_EQ(players.lblStatus.caption.get(), "");
+  EXPECT_EQ(players.lblStatus.caption.get(), "Not querying servers.");
   players.visible.set(true);
   loop.wait(5000);
   replyAndWait(statusReply("Second"));
   EXPECT_EQ(players.lblStatus.caption.get(), "2 servers queried.");
   loop.wait(8000);
+  EXPECT_EQ(players.lblStatus.caption.get(), "Not querying servers.");
   EXPECT_EQ(network.log.front(), "11010 icmp open");
 }
 

@@ -8,9 +8,11 @@
 #include <vector>
 
 #include "appearance/WindowLayout.h"
+#include "browser/BuddyList.h"
 #include "browser/Favorites.h"
 #include "browser/InputBoxes.h"
 #include "browser/Pages.h"
+#include "browser/PlayerSearch.h"
 #include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
 #include "join/GameLaunch.h"
@@ -156,7 +158,16 @@ struct World {
   DetailQuery query{{wsHaloData, loop, mainWindow, commands, notices, detail, ping,
                      [this](const std::string& someTab) { pages.showTab(someTab); },
                      [this](const std::string& mapFile) { maps.checkMap(mapFile); }}};
-  PlayerList playerList{context, stores, menu};
+  PlayerSearch search{{mainWindow, players, commands, notices, dialogs}};
+  BuddyList buddyList{{context, stores, rewrites, commands, menu}};
+  PlayerList playerList{mainWindow, notices, menu, [this](const std::string& name, const std::string& server) {
+                          buddyList.addPlayer(name, server);
+                        }};
+  Connection playerSeen = sweep.playerSeen.connect([this](const SeenPlayer& player) {
+    const std::string address = player.ip + ":" + std::to_string(player.port);
+    search.matchPlayer(player.name, address);
+    buddyList.matchPlayer(player.name, address);
+  });
   FakeUdpSocket wsPass{network};
   FakeProcesses processes;
   FakeDde dde;

@@ -28,6 +28,29 @@ void paintClear(QPainter& painter) {
   painter.drawLine(QPointF(5.6, 13.4), QPointF(14, 13.4));
 }
 
+void paintLens(QPainter& painter) {
+  painter.drawEllipse(QPointF(6.6, 6.6), 4.3, 4.3);
+  painter.drawLine(QPointF(9.8, 9.8), QPointF(13.6, 13.6));
+}
+
+void paintPicture(QPainter& painter, PageIcon picture) {
+  switch (picture) {
+    case PageIcon::clear:
+      paintClear(painter);
+      break;
+    case PageIcon::lens:
+      paintLens(painter);
+      break;
+    case PageIcon::eye:
+      paintEye(painter);
+      break;
+    case PageIcon::crossedEye:
+      paintEye(painter);
+      painter.drawLine(QPointF(3, 13), QPointF(13, 3));
+      break;
+  }
+}
+
 class PageIconEngine : public DrawnIcon {
  public:
   PageIconEngine(PageIcon picture, const QColor& ink) : picture_(picture), ink_(ink) {}
@@ -40,14 +63,7 @@ class PageIconEngine : public DrawnIcon {
     painter->translate(QRectF(rect).center() - QPointF(side / 2, side / 2));
     painter->scale(side / unit, side / unit);
     painter->setPen(QPen(ink_, 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    if (picture_ == PageIcon::clear) {
-      paintClear(*painter);
-    } else {
-      paintEye(*painter);
-    }
-    if (picture_ == PageIcon::crossedEye) {
-      painter->drawLine(QPointF(3, 13), QPointF(13, 3));
-    }
+    paintPicture(*painter, picture_);
     painter->restore();
   }
 

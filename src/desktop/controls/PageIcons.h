@@ -6,7 +6,7 @@
 
 namespace vantrel {
 
-enum class PageIcon { eye, crossedEye, clear };
+enum class PageIcon { eye, crossedEye, clear, lens };
 
 // In `ink`; of a disabled button fainter.
 QIcon pageIcon(PageIcon picture, const QColor& ink);

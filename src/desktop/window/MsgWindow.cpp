@@ -9,10 +9,10 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <algorithm>
 
 #include "desktop/controls/Theme.h"
 #include "desktop/text/Cp1252.h"
+#include "desktop/window/WindowPlaces.h"
 
 namespace vantrel {
 namespace {
@@ -49,17 +49,6 @@ class QuestionMark : public QWidget {
     painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("?"));
   }
 };
-
-// Where a window, with its frame, lies in the middle of another, or on the screen when that is not wholly on it.
-QPoint placeAbove(const QRect& above, QSize size, const QRect& screen) {
-  const QPoint wanted = above.center() - QRect({0, 0}, size).center();
-  return {std::max(screen.left(), std::min(wanted.x(), screen.right() + 1 - size.width())),
-          std::max(screen.top(), std::min(wanted.y(), screen.bottom() + 1 - size.height()))};
-}
-
-bool isSeen(const QWidget* window) {
-  return window != nullptr && window->isVisible() && !window->isMinimized();
-}
 
 }  // namespace
 
