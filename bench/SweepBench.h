@@ -22,6 +22,7 @@ int coldStart(int argc, char** argv);
 void benchStart(Report& report);
 void benchDetail(Report& report);
 void benchSweeps(Report& report);
+void benchBuddies(Report& report);
 void benchFlood(Report& report);
 
 }  // namespace vantrel::bench

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
   vantrel::bench::benchStart(report);
   vantrel::bench::benchDetail(report);
   vantrel::bench::benchFlood(report);
+  vantrel::bench::benchBuddies(report);
   vantrel::bench::benchSweeps(report);
   return report.allReached() ? 0 : 1;
 }
