@@ -43,6 +43,12 @@ void setMaster(CommandLine& line, const std::string& value) {
   }
 }
 
+void setWeb(CommandLine& line, const std::string& value) {
+  const std::size_t colon = value.find(':');
+  line.settings.webAddress = value.substr(0, colon);
+  line.settings.webPort = colon == std::string::npos ? 8080 : numberFrom<std::uint16_t>(value.substr(colon + 1));
+}
+
 void setDuration(CommandLine& line, const std::string& value) {
   const double seconds = numberFrom<double>(value);
   if (!(seconds >= 0 && seconds <= 1e9)) {
@@ -63,6 +69,9 @@ std::map<std::string, Setter> settersByOption() {
       {"--closed", [](auto& line, auto& value) { line.settings.closedShare = numberFrom<double>(value); }},
       {"--master", setMaster},
       {"--port", [](auto& line, auto& value) { line.settings.gamePort = numberFrom<std::uint16_t>(value); }},
+      {"--web", setWeb},
+      {"--web-rate",
+       [](auto& line, auto& value) { line.settings.webBytesPerSecond = numberFrom<std::uint64_t>(value); }},
       {"--log", [](auto& line, auto& value) { line.logFile = value; }},
       {"--for", setDuration},
   };
@@ -103,6 +112,8 @@ Runs a simulated network of game servers on the loopback addresses.
   --closed P               share of servers whose port refuses datagrams (0.015)
   --master ADDRESS[:PORT]  where the master server listens (127.0.0.1:28900; port 0: any free one)
   --port P                 first port of the game servers (2302; 0: any free ones)
+  --web ADDRESS[:PORT]     where the web mirror listens, which has the maps (none; port 8080, 0: any free one)
+  --web-rate N             bytes of a map that the mirror sends in a second (as fast as can be)
   --log FILE               write every query and conversation to FILE (-: standard output)
   --table                  print all servers as a table
   --for SECONDS            end after this time (until interrupted)

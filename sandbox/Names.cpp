@@ -3,6 +3,7 @@
 #include <strings.h>
 
 #include <initializer_list>
+#include <iterator>
 #include <string_view>
 
 namespace vantrel::sandbox {
@@ -167,6 +168,10 @@ std::string serverName(Random& random) {
 std::string playerName(Random& random) {
   const std::string pleasant = pleasantPlayerName(random);
   return random.chance(kHostileShare) ? hostile(random, pleasant, kPlayerNameLength) : pleasant;
+}
+
+std::vector<std::string> customMaps() {
+  return {std::begin(kCustomMaps), std::end(kCustomMaps)};
 }
 
 std::string mapName(Random& random) {

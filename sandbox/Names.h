@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "sandbox/Random.h"
 
@@ -16,6 +17,8 @@ std::string serverName(Random& random);
 std::string playerName(Random& random);
 
 std::string mapName(Random& random);
+/// The maps that a game does not come with.
+std::vector<std::string> customMaps();
 /// One of the five game types, in various capitals.
 std::string gameType(Random& random);
 bool isAlwaysTeamPlay(const std::string& gameType);

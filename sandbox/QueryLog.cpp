@@ -16,9 +16,11 @@ Mark markOf(LogEvent event) {
   switch (event) {
     case LogEvent::QueryReceived:
     case LogEvent::MasterReceived:
+    case LogEvent::WebReceived:
       return {'<', false};
     case LogEvent::ReplySent:
     case LogEvent::MasterSent:
+    case LogEvent::WebSent:
       return {'>', true};
     case LogEvent::QueryLost:
       return {'x', false};

@@ -20,6 +20,8 @@ enum class LogEvent {
   MasterReceived,  ///< bytes of a client of the master server
   MasterSent,      ///< bytes to a client of the master server; a long list is only described
   MasterNote,      ///< anything else that happened to a conversation with the master server
+  WebReceived,     ///< a request to the web mirror
+  WebSent,         ///< what it was answered, described
 };
 
 /// One thing that happened.
@@ -51,7 +53,7 @@ class QueryLog {
   mutable std::mutex mutex_;
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
   std::vector<LogEntry> entries_;
-  std::array<std::size_t, 7> counts_{};
+  std::array<std::size_t, 9> counts_{};
 };
 
 }  // namespace vantrel::sandbox

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "sandbox/MasterServer.h"
 #include "sandbox/QueryLog.h"
+#include "sandbox/WebFiles.h"
 #include "sandbox/WorldPlan.h"
 #include "sandbox/WorldSettings.h"
 
@@ -44,6 +46,11 @@ class SandboxWorld {
   /// From now on the master server fails in this way; a conversation under way meets it at its next step.
   void setMasterFault(const MasterFault& fault) { faults_.set(fault); }
 
+  /// The port of the web mirror in use; none if the settings name none.
+  std::optional<std::uint16_t> webPort() const { return webPort_; }
+  /// What the web mirror has: the custom maps, each as a zip file. May be changed at any time.
+  WebFiles& webFiles() { return webFiles_; }
+
   const QueryLog& log() const { return log_; }
 
  private:
@@ -53,6 +60,8 @@ class SandboxWorld {
   FaultSwitch faults_;
   QueryLog log_;
   std::uint16_t masterPort_;
+  std::optional<std::uint16_t> webPort_;
+  WebFiles webFiles_;
   std::vector<GameServer> servers_;
   std::unique_ptr<Running> running_;
 };

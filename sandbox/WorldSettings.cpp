@@ -21,6 +21,7 @@ bool isShare(double value) {
 
 void checkSettings(const WorldSettings& settings) {
   loopbackEndpoint(settings.masterAddress, settings.masterPort);
+  loopbackEndpoint(settings.webAddress, settings.webPort.value_or(0));
   require(settings.servers <= 1'000'000, "there can be at most 1000000 servers");
   require(settings.gamePort <= 65000, "the game port can be at most 65000");
   require(settings.latencyLow.count() >= 0 && settings.latencyLow <= settings.latencyHigh &&

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace vantrel::sandbox {
@@ -30,6 +31,11 @@ struct WorldSettings {
 
   std::size_t listChunkBytes = 0;  ///< the master list goes out in sends of this size; 0: in one
   std::chrono::milliseconds listChunkPause{0};
+
+  std::string webAddress = "127.0.0.1";  ///< an address of 127.0.0.0/8
+  std::optional<std::uint16_t> webPort;  ///< none: there is no web mirror; 0: any free one
+  std::uint64_t webBytesPerSecond = 0;   ///< of each body; 0: as fast as can be
+  std::size_t mapBytes = 1'500'000;      ///< of each map that the mirror has, unpacked
 };
 
 /// Throws std::invalid_argument, with a text for the user, if a setting is out of its range.

@@ -49,7 +49,11 @@ void run(const CommandLine& line) {
     std::cout << worldTable(world.servers());
   }
   std::cout << "sandbox ready: master " << world.masterAddress() << ":" << world.masterPort() << ", "
-            << world.servers().size() << " servers, " << world.answeringServers() << " answer" << std::endl;
+            << world.servers().size() << " servers, " << world.answeringServers() << " answer";
+  if (world.webPort()) {
+    std::cout << ", maps at http://" << line.settings.webAddress << ":" << *world.webPort() << "/maps/";
+  }
+  std::cout << std::endl;
 
   const auto start = std::chrono::steady_clock::now();
   std::size_t written = 0;
