@@ -6,7 +6,8 @@ unset CDPATH
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 cd "$root" || exit 1
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libcanberra-dev)
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libcanberra-dev libcurl4-openssl-dev
+  libzip-dev)
 # The offscreen platform and Xvfb draw text only when there is a font.
 font_packages=(fontconfig fonts-dejavu-core fonts-liberation)
 # shellcheck disable=SC2034 # used by the scripts that source this file

@@ -33,6 +33,10 @@ Program::Program(Site site, const Version& version, const Places& places)
       layout_(frmMain_),
       detailView_(frmMain_, commands_, version),
       mapCheck_(frmMain_, frmMirror_, files_),
+      mirrorList_({storeContext_, stores_, rewrites_, dialogs_, shell_}),
+      mapInstall_({loop_, frmMain_, frmMirror_, commands_, notices_, mapCheck_, mirrorList_, mirrorPages_, dl1_,
+                   unzipLibrary_, disk_, files_, folder_, site_}),
+      mapPicker_({loop_, frmMirror_, frmMaps_, notices_, mapCheck_, mirrorList_, mirrorPages_, mapInstall_}),
       modPingList_(frmMain_, icmp_, loop_, notices_, progress_),
       detailQuery_({wsHaloData_, loop_, frmMain_, commands_, notices_, detailView_, modPingList_,
                     [this](const std::string& someTab) { pages_.showTab(someTab); },
@@ -60,13 +64,19 @@ Program::Program(Site site, const Version& version, const Places& places)
       window_(frmMain_, commands_, progress_, frmMsg_),
       msgWindow_(frmMsg_, &window_),
       buddiesWindow_(frmBuddies_, &window_),
-      playersWindow_(frmPlayers_, &window_) {
+      playersWindow_(frmPlayers_, &window_),
+      mirrorWindow_(frmMirror_, &window_),
+      mapsWindow_(frmMaps_, &mirrorWindow_) {
   frmMain_.txtFAQ.caption.set(helpText());
   commands_.add(command::getServerList, [this] { exchange_.start(); });
   commands_.add(command::locateGame, [this] { gameFolder_.locate(); });
   frmMsg_.txtWav.text.set(openSlotSound(places.appDir));
   startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
   startAndEnd_.addWindow([this] { frmMsg_.visible.set(false); });
+  startAndEnd_.addWindow([this] {
+    frmMaps_.visible.set(false);
+    mapInstall_.unload();
+  });
   connectPlayers();
   keepColumns();
   connectEnd();

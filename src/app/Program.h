@@ -21,9 +21,12 @@
 #include "core/StoreRewrites.h"
 #include "core/modFavesIni.h"
 #include "desktop/adapters/CanberraSound.h"
+#include "desktop/adapters/CurlInet.h"
 #include "desktop/adapters/DbusDde.h"
+#include "desktop/adapters/DiskBinaryFiles.h"
 #include "desktop/adapters/DiskFiles.h"
 #include "desktop/adapters/LockFile.h"
+#include "desktop/adapters/NetworkState.h"
 #include "desktop/adapters/PosixIcmp.h"
 #include "desktop/adapters/PosixProcesses.h"
 #include "desktop/adapters/PosixTcpSocket.h"
@@ -32,13 +35,18 @@
 #include "desktop/adapters/QtLoop.h"
 #include "desktop/adapters/QtNotices.h"
 #include "desktop/adapters/QtPopupMenu.h"
+#include "desktop/adapters/QtShell.h"
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
+#include "desktop/adapters/ZipUnzipLibrary.h"
 #include "desktop/window/BuddiesWindow.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/MapsWindow.h"
+#include "desktop/window/MirrorWindow.h"
 #include "desktop/window/MsgWindow.h"
 #include "desktop/window/PlayersWindow.h"
 #include "desktop/window/SplashWindow.h"
+#include "export/modHTML2Text.h"
 #include "join/AutoSwitches.h"
 #include "join/GameLaunch.h"
 #include "join/GameWatch.h"
@@ -46,6 +54,8 @@
 #include "join/Tools.h"
 #include "join/modMirc.h"
 #include "maps/MapCheck.h"
+#include "maps/MapInstall.h"
+#include "maps/MapPicker.h"
 #include "query/DetailQuery.h"
 #include "query/DetailView.h"
 #include "query/MasterExchange.h"
@@ -64,6 +74,8 @@ class Program {
   frmMain& model() { return frmMain_; }
   frmBuddies& buddies() { return frmBuddies_; }
   frmPlayers& players() { return frmPlayers_; }
+  frmMirror& mirror() { return frmMirror_; }
+  DownLoad& download() { return dl1_; }
   Commands& commands() { return commands_; }
   SweepProgress& progress() { return progress_; }
   Sweep& sweep() { return sweep_; }
@@ -99,12 +111,19 @@ class Program {
   PosixProcesses processes_;
   DbusDde mirc_;
   CanberraSound sound_{loop_};
+  QtShell shell_;
+  CurlInet downloads_{loop_};
+  CurlInet indexes_{loop_};
+  DiskBinaryFiles disk_;
+  NetworkState network_;
+  ZipUnzipLibrary unzipLibrary_{loop_};
   AppFolder folder_;
   frmMain frmMain_;
   frmSplash frmSplash_;
   frmBuddies frmBuddies_;
   frmPlayers frmPlayers_;
   frmMirror frmMirror_;
+  frmMaps frmMaps_;
   frmMsg frmMsg_{loop_};
   ProfileFiles profiles_;
   StoreContext storeContext_;
@@ -123,6 +142,12 @@ class Program {
   DetailView detailView_;
   SweepProgress progress_;
   MapCheck mapCheck_;
+  modHTML2Text modHTML2Text_{loop_, files_};
+  DownLoad dl1_{{loop_, downloads_, files_, disk_, dialogs_, network_}};
+  MirrorList mirrorList_;
+  MirrorPages mirrorPages_{loop_, indexes_, modHTML2Text_};
+  MapInstall mapInstall_;
+  MapPicker mapPicker_;
   modPingList modPingList_;
   DetailQuery detailQuery_;
   PlayerSearch playerSearch_;
@@ -141,6 +166,8 @@ class Program {
   MsgWindow msgWindow_;
   BuddiesWindow buddiesWindow_;
   PlayersWindow playersWindow_;
+  MirrorWindow mirrorWindow_;
+  MapsWindow mapsWindow_;
   std::vector<Connection> connections_;
 };
 

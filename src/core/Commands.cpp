@@ -52,7 +52,7 @@ void Commands::runStep(const Step& step) {
 
 void Commands::report(const Failure& failure) {
   if (failure.number > 1) {
-    notices_.ShowPopMsg("Error # " + std::to_string(failure.number) + " " + failure.description);
+    notices_.ShowPopMsg(errorReport(failure));
   }
   if (failure.number == failures::connectionReset().number) {
     window_.cmdMenu[command::autoJoinOn].value.set(0);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "platform/Failure.h"
@@ -41,6 +42,11 @@ class SkippingSteps {
  private:
   std::function<void()> afterFailure_;
 };
+
+// What the user is told of a failure that is reported.
+inline std::string errorReport(const Failure& failure) {
+  return "Error # " + std::to_string(failure.number) + " " + failure.description;
+}
 
 // Stops at the first failure and gives it to `report`.
 template <class Handler, class Report>

@@ -53,11 +53,6 @@ struct frmPlayers {
   Signal<> closed;
 };
 
-struct frmMirror {
-  Label lblMap;        // the map that is wanted, without ".map"; empty for none
-  ListBox lstMirrors;  // base addresses of the map mirrors
-};
-
 // Asks whether to wait for a free slot on a server that is full.
 struct frmMsg {
   static constexpr int soundDelay = 30;  // milliseconds behind the window's opening

@@ -54,6 +54,12 @@ std::string lowerCase(std::string_view text) {
   return lower;
 }
 
+std::string upperCase(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(), [](char character) { return upperCase(character); });
+  return upper;
+}
+
 std::string capitalizeWords(std::string_view text) {
   std::string cased(text);
   bool startsWord = true;

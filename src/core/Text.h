@@ -12,6 +12,7 @@ char lowerCase(char character);
 char upperCase(char character);
 
 std::string lowerCase(std::string_view text);
+std::string upperCase(std::string_view text);
 
 // Each word, as split by blanks and TABs, with a capital first character and the rest in lower case.
 std::string capitalizeWords(std::string_view text);

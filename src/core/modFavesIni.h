@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/AppFolder.h"
+#include "core/MirrorWindows.h"
 #include "core/ProfileFiles.h"
 #include "core/SideWindows.h"
 #include "core/Site.h"

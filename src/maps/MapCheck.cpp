@@ -3,6 +3,7 @@
 #include "core/AppFolder.h"
 #include "core/Text.h"
 #include "core/modReg.h"
+#include "maps/MirrorState.h"
 
 namespace vantrel {
 
@@ -23,7 +24,16 @@ void MapCheck::checkMap(const std::string& mapFile) {
   state.caption.set(installed ? " Map is installed. " : " Map is not installed: ");
   state.backColor.set(installed ? colors::black : colors::red);
   if (installed) {
+    goToRest();
+  }
+}
+
+// The buttons of a download under way are needed as long as it is.
+void MapCheck::goToRest() {
+  if (mirror_.transferring) {
     mirror_.lblMap.caption.set("");
+  } else {
+    cancelIt(mirror_);
   }
 }
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "core/SideWindows.h"
+#include "core/MirrorWindows.h"
 #include "core/frmMain.h"
 #include "platform/Files.h"
 
@@ -22,6 +22,8 @@ class MapCheck {
   bool isMapInstalled(const std::string& mapFile) const;
 
  private:
+  void goToRest();
+
   frmMain& window_;
   frmMirror& mirror_;
   const Files& files_;

@@ -98,6 +98,11 @@ class ListBox {
   // Empty when there is no line of that number.
   std::string line(int index) const;
   void add(std::string text);
+  // The later lines move up by one; nothing is selected afterwards when the removed line was. Throws failure 5 when
+  // there is no such line.
+  void remove(int index);
+  // Two lines change places, and the selection moves with its line. Throws as `remove`.
+  void swap(int index, int other);
   void clear();
   // -1 when no line is selected; any other number that is no line's selects none.
   int selected() const { return selected_; }
@@ -106,6 +111,8 @@ class ListBox {
   Signal<> changed;
 
  private:
+  std::string& at(int index);
+
   std::vector<std::string> lines_;
   int selected_ = -1;
 };

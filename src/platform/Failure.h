@@ -15,6 +15,9 @@ struct Failure {
 
 namespace failures {
 
+inline Failure invalidArgument() {
+  return {5, "Invalid procedure call or argument"};
+}
 inline Failure overflow() {
   return {6, "Overflow"};
 }
@@ -23,6 +26,9 @@ inline Failure subscriptOutOfRange() {
 }
 inline Failure outOfMemory() {
   return {7, "Out of memory"};
+}
+inline Failure divisionByZero() {
+  return {11, "Division by zero"};
 }
 inline Failure typeMismatch() {
   return {13, "Type mismatch"};

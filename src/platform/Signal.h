@@ -69,6 +69,9 @@ class Signal {
     return {list_, list_->lastId};
   }
 
+  // Whether anybody would hear it: what is told only to listeners need not be made without any.
+  bool hasListeners() const { return !list_->entries.empty(); }
+
   // Calls the listeners in the order in which they were connected. What a listener throws goes to the caller, and the
   // listeners behind it are then not called.
   void fire(Args... args) const {

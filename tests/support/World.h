@@ -15,10 +15,13 @@
 #include "browser/PlayerSearch.h"
 #include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
+#include "export/modHTML2Text.h"
 #include "join/GameLaunch.h"
 #include "join/SlotWatch.h"
 #include "join/Tools.h"
 #include "maps/MapCheck.h"
+#include "maps/MapInstall.h"
+#include "maps/MapPicker.h"
 #include "query/DetailQuery.h"
 #include "query/DetailView.h"
 #include "query/MasterExchange.h"
@@ -27,10 +30,12 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeFiles.h"
 #include "support/FakeIcmp.h"
+#include "support/FakeInet.h"
 #include "support/FakeNetwork.h"
 #include "support/FakeProcesses.h"
 #include "support/FakeRegistry.h"
 #include "support/FakeSound.h"
+#include "support/FakeUnzipLibrary.h"
 
 namespace vantrel {
 
@@ -154,6 +159,21 @@ struct World {
   FakeUdpSocket wsHaloData{network};
   FakeIcmp icmp{network};
   MapCheck maps{mainWindow, mirror, files};
+  FakeWeb web{loop};
+  FakeInet I1{web};
+  FakeInet inet1{web};
+  FakeBinaryFiles disk{files};
+  FakeConnectivity connectivity;
+  FakeUnzipLibrary unzipLibrary{files};
+  FakeShell shell;
+  frmMaps picker;
+  modHTML2Text reduction{loop, files};
+  DownLoad dl1{{loop, I1, files, disk, dialogs, connectivity}};
+  MirrorList mirrorList{{context, stores, rewrites, dialogs, shell}};
+  MirrorPages mirrorPages{loop, inet1, reduction};
+  MapInstall install{{loop, mainWindow, mirror, commands, notices, maps, mirrorList, mirrorPages, dl1, unzipLibrary,
+                      disk, files, folder, site}};
+  MapPicker mapPicker{{loop, mirror, picker, notices, maps, mirrorList, mirrorPages, install}};
   modPingList ping{mainWindow, icmp, loop, notices, progress};
   DetailQuery query{{wsHaloData, loop, mainWindow, commands, notices, detail, ping,
                      [this](const std::string& someTab) { pages.showTab(someTab); },

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <algorithm>
 
 #include "desktop/grid/DrawnIcon.h"
@@ -33,10 +34,31 @@ void paintLens(QPainter& painter) {
   painter.drawLine(QPointF(9.8, 9.8), QPointF(13.6, 13.6));
 }
 
+// `tip` is where it points to.
+void paintArrow(QPainter& painter, qreal tip, qreal wings) {
+  painter.drawLine(QPointF(8, 3), QPointF(8, 13));
+  painter.drawPolyline(QPolygonF({{4.2, wings}, {8, tip}, {11.8, wings}}));
+}
+
+void paintGlobe(QPainter& painter) {
+  painter.drawEllipse(QPointF(8, 8), 6, 6);
+  painter.drawEllipse(QPointF(8, 8), 2.6, 6);
+  painter.drawLine(QPointF(2, 8), QPointF(14, 8));
+}
+
 void paintPicture(QPainter& painter, PageIcon picture) {
   switch (picture) {
     case PageIcon::clear:
       paintClear(painter);
+      break;
+    case PageIcon::up:
+      paintArrow(painter, 3, 6.8);
+      break;
+    case PageIcon::down:
+      paintArrow(painter, 13, 9.2);
+      break;
+    case PageIcon::globe:
+      paintGlobe(painter);
       break;
     case PageIcon::lens:
       paintLens(painter);

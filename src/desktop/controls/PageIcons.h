@@ -6,7 +6,7 @@
 
 namespace vantrel {
 
-enum class PageIcon { eye, crossedEye, clear, lens };
+enum class PageIcon { eye, crossedEye, clear, lens, up, down, globe };
 
 // In `ink`; of a disabled button fainter.
 QIcon pageIcon(PageIcon picture, const QColor& ink);

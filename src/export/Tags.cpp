@@ -1,0 +1,37 @@
+#include "export/Tags.h"
+
+#include <algorithm>
+
+#include "core/Text.h"
+
+namespace vantrel {
+
+std::string stripBlanks(std::string_view text) {
+  std::string stripped(text);
+  std::erase(stripped, ' ');
+  return stripped;
+}
+
+std::string_view trimTag(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) {
+    return {};
+  }
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+bool tagIs(std::string_view tag, std::string_view name) {
+  return tag.size() == name.size() && tagStartsWith(tag, name);
+}
+
+bool tagStartsWith(std::string_view tag, std::string_view name) {
+  const auto isSame = [](char left, char right) { return upperCase(left) == right; };
+  return tag.size() >= name.size() && std::equal(name.begin(), name.end(), tag.begin(),
+                                                 [&](char wanted, char given) { return isSame(given, wanted); });
+}
+
+bool tagIsNamed(std::string_view tag, std::string_view name) {
+  return tagStartsWith(tag, name) && (tag.size() == name.size() || tag[name.size()] == ' ');
+}
+
+}  // namespace vantrel
