@@ -24,5 +24,6 @@ void benchDetail(Report& report);
 void benchSweeps(Report& report);
 void benchBuddies(Report& report);
 void benchFlood(Report& report);
+void benchMaps(Report& report);
 
 }  // namespace vantrel::bench

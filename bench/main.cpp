@@ -16,9 +16,14 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   vantrel::applyTheme(application);
   vantrel::bench::Report report;
+  if (argc > 1 && std::string_view(argv[1]) == "--maps") {
+    vantrel::bench::benchMaps(report);
+    return report.allReached() ? 0 : 1;
+  }
   vantrel::bench::benchStart(report);
   vantrel::bench::benchDetail(report);
   vantrel::bench::benchFlood(report);
+  vantrel::bench::benchMaps(report);
   vantrel::bench::benchBuddies(report);
   vantrel::bench::benchSweeps(report);
   return report.allReached() ? 0 : 1;
