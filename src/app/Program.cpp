@@ -88,9 +88,12 @@ void Program::connectPlayers() {
     playerSearch_.matchPlayer(player.name, address);
     buddyList_.matchPlayer(player.name, address);
   }));
+  // The windows go at once; what is still to be written is, when they are gone.
   startAndEnd_.addWindow([this] {
-    buddyList_.saveNow();
     frmBuddies_.visible.set(false);
+    if (!frmMain_.visible.get()) {
+      buddyList_.saveNow();
+    }
   });
 }
 

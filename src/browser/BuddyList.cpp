@@ -10,9 +10,17 @@ namespace vantrel {
 namespace {
 
 // A rewrite holds a sweep up for a third of a second. So it waits until no buddy has been seen for a while, but not for
-// ever.
-constexpr int quietTime = 2000;                  // milliseconds
-constexpr std::uint64_t longestUnsaved = 20000;  // milliseconds
+// ever, and the next one not before some time has passed.
+constexpr std::uint64_t quietTime = 2000;        // milliseconds
+constexpr std::uint64_t longestUnsaved = 20000;  // milliseconds, also from one rewrite to the next
+constexpr std::size_t longestName = 254;         // as the file gives it back
+
+// A name as the file gives it back: another one would match nobody after the next start.
+std::string storable(std::string name) {
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return name.substr(0, longestName);
+}
 
 }  // namespace
 
@@ -46,6 +54,7 @@ void BuddyList::show() {
 
 void BuddyList::unload() {
   window_.txtBuddy.text.set("");
+  window_.windowState.set(WindowState::normal);
   window_.visible.set(false);
 }
 
@@ -64,10 +73,23 @@ void BuddyList::press(int button) {
 // A list that was not read yet is read first: it would be taken for the whole file afterwards.
 void BuddyList::add() {
   stopSilently([this] { c_.storeFiles.LoadBuddies(); });
-  const std::string name = window_.txtBuddy.text.get();
+  const std::string typed = window_.txtBuddy.text.get();
+  const std::string name = storable(typed);
   list_.add({"", "", "", name});
   c_.storeFiles.AddBuddy(name, "");
-  window_.txtBuddy.text.set("");
+  if (window_.txtBuddy.text.get() == typed) {  // A failure is told, and the user may have typed on meanwhile.
+    window_.txtBuddy.text.set("");
+  }
+  if (!isFileWhole(list_.count())) {
+    saveSoon();
+  }
+}
+
+// Whether the file has as many buddies as it should.
+bool BuddyList::isFileWhole(int wanted) {
+  bool isWhole = false;
+  stopSilently([&] { isWhole = c_.storeFiles.storedBuddies() == wanted; });
+  return isWhole;
 }
 
 void BuddyList::remove() {
@@ -84,13 +106,19 @@ void BuddyList::find() {
 
 void BuddyList::addPlayer(const std::string& name, const std::string& lastserver) {
   stopSilently([this] { c_.storeFiles.LoadBuddies(); });
+  const int wanted = list_.count() + 1;
   c_.storeFiles.AddBuddy(name, lastserver);
   window_.visible.set(true);
-  if (unsaved_ || c_.rewrites.isUnderWay(file())) {
-    list_.add({"", "", lastserver, name});  // The file is behind the list.
-  } else {
+  window_.focusWanted.fire();
+  const bool isBehind = unsaved_ || c_.rewrites.isUnderWay(file());
+  if (!isBehind && isFileWhole(wanted)) {
     list_.clear();
     c_.storeFiles.LoadBuddies();
+    return;
+  }
+  list_.add({"", "", lastserver, storable(name)});
+  if (!isBehind) {
+    saveSoon();
   }
 }
 
@@ -155,10 +183,11 @@ void BuddyList::saveSoon() {
   if (!std::exchange(unsaved_, true)) {
     unsavedSince_ = now;
   }
-  const std::uint64_t passed = now - unsavedSince_;
-  const int left = passed < longestUnsaved ? static_cast<int>(longestUnsaved - passed) : 0;
+  const std::uint64_t latest = std::max(now, unsavedSince_ + longestUnsaved);
+  const std::uint64_t earliest = saved_ ? *saved_ + longestUnsaved : 0;
+  const std::uint64_t due = std::max(std::min(now + quietTime, latest), earliest);
   c_.stores.loop.stopTimer(timer_);
-  timer_ = c_.stores.loop.startTimer(std::min(quietTime, left), TimerKind::once, [this] {
+  timer_ = c_.stores.loop.startTimer(static_cast<int>(due - now), TimerKind::once, [this] {
     timer_ = 0;
     saveNow();
   });
@@ -169,7 +198,13 @@ void BuddyList::saveNow() {
   if (!std::exchange(unsaved_, false)) {
     return;
   }
-  stopSilently([this] { c_.rewrites.saveBuddies(file()); });
+  saved_ = c_.stores.loop.tickCount();
+  bool isSaved = false;
+  stopSilently([&] {
+    c_.rewrites.saveBuddies(file());
+    isSaved = true;
+  });
+  unsaved_ = unsaved_ || !isSaved;
 }
 
 }  // namespace vantrel

@@ -57,6 +57,7 @@ class BuddyList {
   void find();
   void offerMenu(int number);
   void query(const std::string& server);
+  bool isFileWhole(int wanted);
   void saveSoon();
   void indexNames();
   std::string file() const { return c_.stores.folder.path("\\buddies.ini"); }
@@ -66,8 +67,9 @@ class BuddyList {
   FavoritesList& list_;
   // Names in lower case -> numbers; made anew when the list has changed.
   std::optional<std::unordered_map<std::string, std::vector<int>>> numbers_;
-  bool unsaved_ = false;            // the sweep has changed the list since the last rewrite began
-  std::uint64_t unsavedSince_ = 0;  // tick count
+  bool unsaved_ = false;                // the list was changed since the last rewrite began
+  std::optional<std::uint64_t> saved_;  // tick count of that; none yet
+  std::uint64_t unsavedSince_ = 0;      // tick count
   TimerId timer_ = 0;
   std::vector<Connection> connections_;
 };

@@ -24,6 +24,7 @@ void PlayerSearch::start() {
   }
   c_.commands.clickIt(command::getServerList);
   c_.window.visible.set(true);
+  c_.window.focusWanted.fire();
   c_.window.lblSearchfor.caption.set(c_.mainWindow.txtPlayer.text.get());
 }
 
@@ -46,12 +47,17 @@ void PlayerSearch::pick() {
   if (list.count() == 0) {
     return;
   }
-  const std::vector<std::string> parts = split(list.line(list.selected()), '\t');
+  takeServer();
+  c_.commands.clickIt(command::queryServer);
+}
+
+void PlayerSearch::takeServer() {
+  picked_ = c_.window.lstPlayers.line(c_.window.lstPlayers.selected());
+  const std::vector<std::string> parts = split(picked_, '\t');
   if (parts.size() < 2) {
     throw failures::subscriptOutOfRange();
   }
   c_.mainWindow.txtIP.text.set(parts[1]);
-  c_.commands.clickIt(command::queryServer);
 }
 
 void PlayerSearch::showPlayer() {
@@ -64,6 +70,9 @@ void PlayerSearch::showPlayer() {
     return;
   }
   c_.window.cmdShow.enabled.set(true);
+  if (list.line(list.selected()) != picked_) {  // The keys have moved the selection away from what was clicked.
+    takeServer();
+  }
   c_.commands.clickIt(command::queryServer);
   c_.window.visible.set(false);
 }

@@ -32,9 +32,11 @@ class PlayerSearch {
  private:
   void start();
   void pick();
+  void takeServer();
   void showPlayer();
 
   Context c_;
+  std::string picked_;  // the line whose server was asked last
   std::vector<Connection> connections_;
 };
 

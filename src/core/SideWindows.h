@@ -26,7 +26,8 @@ struct frmBuddies {
   std::array<Button, 3> cmdMenu;
   FavoritesList myFaves1;  // a buddy's name in `name`, the server where he was last seen in `hostname`
 
-  Signal<int> pressed;  // number of a button; fired by a view, as is `closed`
+  Signal<> focusWanted;  // fired by the logic: the window comes to the front
+  Signal<int> pressed;   // number of a button; fired by a view, as is `closed`
   Signal<> closed;
   Signal<> focusLeft;  // fired by the logic: the main window takes the focus
 };
@@ -48,6 +49,7 @@ struct frmPlayers {
   Label lblStatus;
   Button cmdShow;  // "Show Player"
 
+  Signal<> focusWanted;  // fired by the logic: the window comes to the front
   Signal<> lineClicked;  // behind the selection; fired by a view, as are the two below
   Signal<> showPressed;
   Signal<> closed;

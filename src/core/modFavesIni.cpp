@@ -114,6 +114,10 @@ void modFavesIni::UpdateFave(const std::string& file) {
   writeFave(file, std::to_string(number), editedFave());
 }
 
+std::int16_t modFavesIni::storedBuddies() {
+  return readCount(c_.folder.path("\\buddies.ini"), buddiesFormat);
+}
+
 void modFavesIni::AddBuddyEntry(const std::string& file, const std::string& buddyname, const std::string& lastserver) {
   const std::int16_t number = nextNumber(file, buddiesFormat);
   const std::string section = std::to_string(number);

@@ -59,6 +59,8 @@ class modFavesIni {
   // Fills the buddy list from buddies.ini, but only when it is empty. While the file is being rewritten from the list,
   // the list is right as it is.
   void LoadBuddies();
+  // How many buddies buddies.ini says that it has. Throws as `LoadBuddies`.
+  std::int16_t storedBuddies();
   // Appends the mirrors of mirrors.ini to the mirror list, each with a slash at its end; texts too short are left out.
   void LoadMirrors();
 

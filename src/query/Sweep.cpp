@@ -92,8 +92,12 @@ Sweep::~Sweep() {
 void Sweep::showSearch(const Reply& reply) {
   c_.players.lblStatus.caption.set(std::to_string(reply.row()) + " servers queried.");
   c_.loop.stopTimer(rest_);
-  rest_ =
-      c_.loop.startTimer(countStays, TimerKind::once, [this] { c_.players.lblStatus.caption.set(frmPlayers::atRest); });
+  rest_ = c_.loop.startTimer(countStays, TimerKind::repeating, [this] {
+    if (!c_.progress.walking.get()) {
+      c_.loop.stopTimer(std::exchange(rest_, 0));
+      c_.players.lblStatus.caption.set(frmPlayers::atRest);
+    }
+  });
 }
 
 void Sweep::QueryServer(const std::string& ip, int port) {

@@ -80,6 +80,10 @@ TEST_F(BuddiesTest, a_hit_that_is_clicked_is_queried_and_shown) {
   players.showPressed.fire();
   EXPECT_EQ(wsHaloData.sent, 2);
   EXPECT_FALSE(players.visible.get());
+  see("Bart", "192.0.2.50");
+  players.lstPlayers.select(2);
+  players.showPressed.fire();
+  EXPECT_EQ(mainWindow.txtIP.text.get(), "192.0.2.50") << "the one who is selected, however he came to be";
   players.lstPlayers.select(1);
   players.lineClicked.fire();
   EXPECT_EQ(mainWindow.txtIP.text.get(), "ab");
@@ -105,7 +109,7 @@ TEST_F(BuddiesTest, many_buddies_in_one_sweep_are_a_handful_of_rewrites) {
   const int before = files.replacements;
   for (const std::string& name : names) {
     see(name);
-    loop.wait(400);
+    loop.wait(1200);
   }
   buddyList.saveNow();
   EXPECT_EQ(stored(), listed());
@@ -133,6 +137,31 @@ TEST_F(BuddiesTest, the_buttons_add_delete_and_look_for_a_name) {
   EXPECT_EQ(mainWindow.txtPlayer.text.get(), "mi");
   EXPECT_EQ(sweeps, 1);
   EXPECT_FALSE(buddies.visible.get());
+}
+
+TEST_F(BuddiesTest, a_file_that_fails_takes_no_buddy_from_the_list_and_is_made_whole_again) {
+  for (const char* const trouble : {"[MOFOCOUNT]\r\nBuddies=x\r\n", ""}) {
+    files.changeOutside(path("buddies.ini"), "");
+    files.remove(path("buddies.ini"));
+    buddies.myFaves1.clear();
+    keepBuddies({"a", "b"});
+    loop.wait(0);
+    if (*trouble != '\0') {
+      files.changeOutside(path("buddies.ini"), trouble);
+    } else {
+      files.remove(path("buddies.ini"));
+    }
+    loop.wait(10);
+    notices.duringBalloon = [this] { buddies.txtBuddy.text.set("typed on"); };
+    buddyList.addPlayer("c", "192.0.2.1:2302");
+    buddies.txtBuddy.text.set("d");
+    buddies.pressed.fire(frmBuddies::add);
+    notices.duringBalloon = {};
+    EXPECT_EQ(buddies.txtBuddy.text.get(), *trouble != '\0' ? "typed on" : "");
+    EXPECT_EQ(listed(), "a@;b@;c@192.0.2.1:2302;d@;");
+    loop.wait(60000);
+    EXPECT_EQ(stored(), listed()) << trouble;
+  }
 }
 
 TEST_F(BuddiesTest, the_last_buddy_stays_deleted_though_a_reply_comes_in_the_middle_of_the_rewrite) {

@@ -10,7 +10,8 @@
 namespace vantrel {
 namespace {
 
-constexpr int batchInterval = 100;  // milliseconds
+constexpr int batchInterval = 100;          // milliseconds
+constexpr std::size_t longestShown = 1000;  // characters of a name
 
 }  // namespace
 
@@ -63,7 +64,8 @@ void HitsModel::readLines() {
 // A name may hold a TAB; the address, which comes last, holds none.
 HitsModel::Line HitsModel::read(const std::string& text) {
   const std::size_t tab = std::min(text.rfind('\t'), text.size());
-  const std::string parts[2] = {text.substr(0, tab), text.substr(std::min(tab + 1, text.size()))};
+  const std::string parts[2] = {text.substr(0, std::min(tab, longestShown)),
+                                text.substr(std::min(tab + 1, text.size()))};
   Line line{text, {}, {}};
   for (std::size_t i = 0; i < 2; ++i) {
     line.cells[i] = oneLine(fromCp1252(parts[i]));

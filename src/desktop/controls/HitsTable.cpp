@@ -42,7 +42,6 @@ HitsTable::HitsTable(ListBox& list, QWidget* parent)
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &HitsTable::sortBy);
   connect(hits_, &HitsModel::rowsAboutToBeRemoved, this, [this] { followsList_ = true; });
   connect(hits_, &HitsModel::upToDate, this, &HitsTable::showSelection);
-  connect(this, &QTableView::doubleClicked, this, &HitsTable::shown);
   showSelection();
 }
 
@@ -88,12 +87,20 @@ void HitsTable::focusInEvent(QFocusEvent* event) {
   showSelection();
 }
 
-// What the user means are the rows as they are now.
+// What the user means are the rows as he sees them, also where others have come since.
 void HitsTable::mousePressEvent(QMouseEvent* event) {
-  hits_->showChanges();
+  if (list_.count() < hits_->rowCount()) {
+    hits_->showChanges();  // What is gone cannot be meant.
+  }
   QTableView::mousePressEvent(event);
   if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) {
     Q_EMIT picked();
+  }
+}
+
+void HitsTable::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) {
+    Q_EMIT shown();
   }
 }
 

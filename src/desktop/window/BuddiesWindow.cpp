@@ -1,5 +1,6 @@
 #include "desktop/window/BuddiesWindow.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -33,6 +34,7 @@ BuddiesWindow::BuddiesWindow(frmBuddies& model, QWidget* owner)
   resize(usual);
   bindState(owner);
   follow();
+  followFocus(model_.focusWanted);
 }
 
 QBoxLayout* BuddiesWindow::makeName() {
@@ -80,6 +82,14 @@ QWidget* BuddiesWindow::makeList() {
   list->setAccessibleName(tr("Buddies"));
   connect(list, &FavesListView::removeAsked, this, [this] { model_.pressed.fire(frmBuddies::remove); });
   return list;
+}
+
+// What the user does by the window system is known to those who minimise and restore the window.
+void BuddiesWindow::changeEvent(QEvent* event) {
+  SideWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) {
+    model_.windowState.set(isMinimized() ? WindowState::minimized : WindowState::normal);
+  }
 }
 
 // A window that is minimised while the game runs is brought back as it was, and does not come before the game.

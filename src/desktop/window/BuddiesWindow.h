@@ -15,6 +15,9 @@ class BuddiesWindow : public SideWindow {
   // `model` must outlive the window. It comes up beside `owner`, which takes the focus when the model says so.
   BuddiesWindow(frmBuddies& model, QWidget* owner);
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   QBoxLayout* makeName();
   QBoxLayout* makeHeader();

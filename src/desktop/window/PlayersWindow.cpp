@@ -32,6 +32,7 @@ PlayersWindow::PlayersWindow(frmPlayers& model, QWidget* owner)
   column->addLayout(makeFoot(*hits));
   resize(usual);
   follow();
+  followFocus(model_.focusWanted);
 }
 
 QBoxLayout* PlayersWindow::makeWanted() {

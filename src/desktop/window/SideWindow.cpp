@@ -33,6 +33,16 @@ void SideWindow::follow() {
   bindings_.keep(model_.visible.changed.connect(show));
 }
 
+void SideWindow::followFocus(Signal<>& focusWanted) {
+  bindings_.keep(focusWanted.connect([this] {
+    setWindowState(windowState().setFlag(Qt::WindowMinimized, false));
+    raise();
+    if (!testAttribute(Qt::WA_ShowWithoutActivating)) {
+      activateWindow();
+    }
+  }));
+}
+
 QLabel* SideWindow::makeTitle(const QString& text) {
   auto* const title = new QLabel(text, this);
   makeHeading(*title);

@@ -33,6 +33,8 @@ class SideWindow : public QWidget {
   Bindings& bindings() { return bindings_; }
   // To be called when the window is built: shows it if the model says so.
   void follow();
+  // Brings the window to the front whenever the model wants it there.
+  void followFocus(Signal<>& focusWanted);
   // Bold, with what the window is about.
   QLabel* makeTitle(const QString& text);
   // A button of the model; a press is told with `press`. `mnemonic`: a letter of the caption or 0.

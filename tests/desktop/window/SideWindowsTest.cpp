@@ -77,6 +77,13 @@ TEST(PlayersWindowTest, sorting_moves_what_is_shown_and_a_click_still_means_the_
   QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, placeOf(1));
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, placeOf(1));
   EXPECT_EQ(shown, 1);
+  QTest::mouseDClick(table.viewport(), Qt::RightButton, {}, placeOf(1));
+  EXPECT_EQ(shown, 1);
+  Q_EMIT table.horizontalHeader()->sectionClicked(0);
+  const std::string seen = table.model()->index(0, 0).data().toString().toStdString();
+  model.lstPlayers.add("aa\t127.0.0.1:2302");
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, placeOf(0));
+  EXPECT_EQ(model.lstPlayers.line(model.lstPlayers.selected()).substr(0, seen.size()), seen) << "what was seen there";
   model.lstPlayers.clear();
   EXPECT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() == 0; }));
 }
