@@ -21,6 +21,8 @@ struct NoLoop : vantrel::Loop {
   }
   void stopTimer(vantrel::TimerId /*timer*/) override {}
   std::string dateAndTime() const override { return {}; }
+  std::string generalDate() const override { return {}; }
+  std::string fixedDate() const override { return {}; }
   bool ending() const override { return false; }
 };
 

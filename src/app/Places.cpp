@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -19,6 +20,17 @@ QString usersFolder(QStandardPaths::StandardLocation location) {
   return QStandardPaths::writableLocation(location) + QStringLiteral("/vantrel-ce");
 }
 
+// The report's template and what belongs to it. What the user has there already, changed or not, stays.
+void copyMissing(const QString& from, const QString& to) {
+  QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    const QString file = files.next();
+    const QString target = to + '/' + QDir(from).relativeFilePath(file);
+    QDir().mkpath(QFileInfo(target).path());
+    QFile::copy(file, target);  // Never over one that is there.
+  }
+}
+
 std::string findAppDir() {
   const QString own = QCoreApplication::applicationDirPath();
   if (QFileInfo(own).isWritable()) {
@@ -26,13 +38,19 @@ std::string findAppDir() {
   }
   const QString users = usersFolder(QStandardPaths::GenericDataLocation);
   QDir().mkpath(users);
+  copyMissing(own + QStringLiteral("/../share/vantrel-ce/gameinfo"), users + QStringLiteral("/gameinfo"));
   return bytes(users);
 }
 
 }  // namespace
 
 Places findPlaces() {
-  return {findAppDir(), bytes(usersFolder(QStandardPaths::GenericConfigLocation)), findWinePrefix()};
+  return {findAppDir(),
+          bytes(usersFolder(QStandardPaths::GenericConfigLocation)),
+          findWinePrefix(),
+          bytes(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)),
+          bytes(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)),
+          bytes(QCoreApplication::applicationFilePath())};
 }
 
 }  // namespace vantrel

@@ -10,6 +10,11 @@ struct Places {
   std::string appDir;      // of the stores; exists
   std::string configDir;   // of the settings and the lock; made when it is needed
   std::string winePrefix;  // of the Windows programs, among them the game; need not exist
+
+  // Of the desktop's own files, in which the program is named for halo:// links. Empty: it is named nowhere.
+  std::string dataHome = {};
+  std::string configHome = {};
+  std::string program = {};  // full path of the program itself
 };
 
 // The stores stand in the program's own folder when it can be written, else in the user's data folder, which is made

@@ -6,14 +6,17 @@
 #include "desktop/grid/ServerGridView.h"
 #include "desktop/pages/HelpText.h"
 #include "desktop/pages/ServerPage.h"
+#include "links/modUrlEncode.h"
 
 namespace vantrel {
 
-Program::Program(Site site, const Version& version, const Places& places)
+Program::Program(Site site, const Version& version, const Places& places, std::string commandLine)
     : site_(std::move(site)),
+      commandLine_(std::move(commandLine)),
       winePrefix_(files_, places.winePrefix),
       registry_(files_, loop_, places.configDir, &winePrefix_),
       lock_(places.configDir),
+      schemes_(files_, {places.dataHome, places.configHome, places.program}),
       folder_(files_, places.appDir),
       frmMain_(loop_),
       frmSplash_(loop_),
@@ -52,6 +55,9 @@ Program::Program(Site site, const Version& version, const Places& places)
       gameLaunch_({wsPass_, frmMain_, frmBuddies_, commands_, notices_, files_, processes_, modMirc_, gameWatch_,
                    [this] { return slotWatch_.holdBack(); }}),
       tools_({frmMain_, frmBuddies_, commands_, notices_, files_, folder_, processes_}),
+      linkHandler_({frmMain_, frmMirror_, frmPlayers_, frmBuddies_, commands_, notices_,
+                    [this](const std::string& map) { mapInstall_.showFor(map); }, [this] { buddyList_.clickBuddy(); }}),
+      modProtocol_({modReg_, notices_, schemes_, linkHandler_, places.program}),
       sweep_({ws2_, loop_, frmMain_, frmPlayers_, stores_, folder_, progress_}),
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
       startAndEnd_({storeContext_, stores_, rewrites_, settings_, frmSplash_, lock_, version},
@@ -59,12 +65,16 @@ Program::Program(Site site, const Version& version, const Places& places)
                     .loadColors = {},
                     .LoadTools = [this] { tools_.LoadTools(); },
                     .prepareFavorites = {},
-                    .handOverLink = {}}),
+                    .handOverLink = [this] { modProtocol_.registerProtocolHandler(commandLine_); }}),
       splashWindow_(frmSplash_),
       window_(frmMain_, commands_, progress_, frmMsg_),
       msgWindow_(frmMsg_, &window_),
       buddiesWindow_(frmBuddies_, &window_),
       playersWindow_(frmPlayers_, &window_),
+      serverListExport_({loop_, frmMain_, commands_, dialogs_, files_, shell_, site_, version,
+                         [this] { return window_.serverPage().grid().rowsInOrder(); }}),
+      serverReport_({loop_, frmMain_, commands_, notices_, files_, folder_, shell_, dialogs_, site_, version,
+                     [](std::string& name) { return URLEncode(name); }}),
       mirrorWindow_(frmMirror_, &window_),
       mapsWindow_(frmMaps_, &mirrorWindow_) {
   frmMain_.txtFAQ.caption.set(helpText());

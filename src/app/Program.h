@@ -38,6 +38,7 @@
 #include "desktop/adapters/QtShell.h"
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
+#include "desktop/adapters/XdgSchemes.h"
 #include "desktop/adapters/ZipUnzipLibrary.h"
 #include "desktop/window/BuddiesWindow.h"
 #include "desktop/window/MainWindow.h"
@@ -46,6 +47,8 @@
 #include "desktop/window/MsgWindow.h"
 #include "desktop/window/PlayersWindow.h"
 #include "desktop/window/SplashWindow.h"
+#include "export/ServerListExport.h"
+#include "export/ServerReport.h"
 #include "export/modHTML2Text.h"
 #include "join/AutoSwitches.h"
 #include "join/GameLaunch.h"
@@ -53,6 +56,8 @@
 #include "join/SlotWatch.h"
 #include "join/Tools.h"
 #include "join/modMirc.h"
+#include "links/LinkHandler.h"
+#include "links/modProtocol.h"
 #include "maps/MapCheck.h"
 #include "maps/MapInstall.h"
 #include "maps/MapPicker.h"
@@ -68,7 +73,8 @@ namespace vantrel {
 class Program {
  public:
   // REQUIRES: a QApplication, which outlives the program and does not quit with its last window.
-  Program(Site site, const Version& version, const Places& places);
+  // `commandLine`: what it was started with, behind its name.
+  Program(Site site, const Version& version, const Places& places, std::string commandLine = {});
 
   MainWindow& window() { return window_; }
   frmMain& model() { return frmMain_; }
@@ -95,6 +101,7 @@ class Program {
   void connectEnd();
 
   Site site_;
+  std::string commandLine_;
   QtLoop loop_;
   DiskFiles files_;
   QtNotices notices_{loop_};
@@ -117,6 +124,7 @@ class Program {
   DiskBinaryFiles disk_;
   NetworkState network_;
   ZipUnzipLibrary unzipLibrary_{loop_};
+  XdgSchemes schemes_;
   AppFolder folder_;
   frmMain frmMain_;
   frmSplash frmSplash_;
@@ -158,6 +166,8 @@ class Program {
   SlotWatch slotWatch_;
   GameLaunch gameLaunch_;
   Tools tools_;
+  LinkHandler linkHandler_;
+  modProtocol modProtocol_;
   Sweep sweep_;
   MasterExchange exchange_;
   StartAndEnd startAndEnd_;
@@ -166,6 +176,8 @@ class Program {
   MsgWindow msgWindow_;
   BuddiesWindow buddiesWindow_;
   PlayersWindow playersWindow_;
+  ServerListExport serverListExport_;
+  ServerReport serverReport_;
   MirrorWindow mirrorWindow_;
   MapsWindow mapsWindow_;
   std::vector<Connection> connections_;

@@ -54,6 +54,7 @@ struct frmMirror {
   Button cmdRemove;
   Button cmdURL;
 
+  Signal<> focusWanted;           // fired by the logic: the window comes to the front
   Signal<MirrorCommand> pressed;  // fired by a view, as are the two below
   Signal<> mirrorClicked;         // behind the selection
   Signal<> closed;

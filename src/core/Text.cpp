@@ -81,6 +81,21 @@ std::vector<std::string> split(std::string_view text, char separator) {
   return parts;
 }
 
+std::string_view trimSpaces(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view()
+                                         : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string replaced;
+  for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from)) {
+    replaced.append(text.substr(0, at)).append(to);
+    text.remove_prefix(at + from.size());
+  }
+  return replaced.append(text);
+}
+
 std::string_view trimBlanks(std::string_view text) {
   while (!text.empty() && isBlank(text.front())) {
     text.remove_prefix(1);

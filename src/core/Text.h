@@ -20,6 +20,12 @@ std::string capitalizeWords(std::string_view text);
 // The parts between the separators: one more than there are separators, so an empty text has one empty part.
 std::vector<std::string> split(std::string_view text, char separator);
 
+// Without the blanks at both ends.
+std::string_view trimSpaces(std::string_view text);
+
+// Each `from` (not empty), from left to right, replaced; what that brings together stays.
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+
 // Without the blanks and TABs at both ends.
 std::string_view trimBlanks(std::string_view text);
 

@@ -63,7 +63,8 @@ struct frmMain {
   Field<Color> backColor{colors::systemFace};
   float Width = 0;
   float Height = 0;
-  Signal<> resized;  // fired by a view, behind a change of its size or state
+  Signal<> focusWanted;  // fired by the logic: the window comes to the front
+  Signal<> resized;      // fired by a view, behind a change of its size or state
 
   // The current server: the one that commands act on. Address and port are as the user may have typed them.
   TextBox txtIP;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/Text.h"
 #include "export/Entities.h"
 #include "export/Tags.h"
 
@@ -152,7 +153,7 @@ bool PageWalk::collectTag() {
   if (end >= page_.size() - 1) {
     return false;
   }
-  tag_ = isComment ? commentMark : trimTag(page_.substr(start, end - start));
+  tag_ = isComment ? commentMark : trimSpaces(page_.substr(start, end - start));
   at_ = end;
   if (!isComment && code(page_[end + 1]) < 32) {
     spaceDone_ = true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Text.h"
 #include "export/Tags.h"
 
 namespace vantrel {
@@ -49,7 +50,7 @@ void RowMeasure::stepBack(std::string_view piece) {
     inCell_ = add(inCell_, piece.size() + 1);
     return;
   }
-  const std::string_view tag = trimTag(piece.substr(text + 1));
+  const std::string_view tag = trimSpaces(piece.substr(text + 1));
   const Length cell = inCell_;
   const Length between = betweenCells_;
   inCell_ = add(cell, text);

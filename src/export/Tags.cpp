@@ -12,14 +12,6 @@ std::string stripBlanks(std::string_view text) {
   return stripped;
 }
 
-std::string_view trimTag(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) {
-    return {};
-  }
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 bool tagIs(std::string_view tag, std::string_view name) {
   return tag.size() == name.size() && tagStartsWith(tag, name);
 }

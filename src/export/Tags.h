@@ -10,9 +10,6 @@ namespace vantrel {
 // Without any blank, wherever it stands.
 std::string stripBlanks(std::string_view text);
 
-// Without the blanks at both ends.
-std::string_view trimTag(std::string_view text);
-
 bool tagIs(std::string_view tag, std::string_view name);
 bool tagStartsWith(std::string_view tag, std::string_view name);
 

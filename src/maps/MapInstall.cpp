@@ -74,15 +74,28 @@ void MapInstall::show() {
   window_.visible.set(false);
   const bool isAtWork = c_.dl1.InDL() || completing_;
   if (!isAtWork) {
-    c_.mirrors.load();
-    c_.dl1.reset();
-    resetButtons(window_);
-    loaded_ = true;
+    open();
   }
   window_.visible.set(true);
   if (!isAtWork) {
     load();
   }
+}
+
+void MapInstall::open() {
+  c_.mirrors.load();
+  c_.dl1.reset();
+  resetButtons(window_);
+  loaded_ = true;
+}
+
+void MapInstall::showFor(const std::string& map) {
+  if (!c_.dl1.InDL() && !completing_) {
+    beginAttempt();
+    open();
+  }
+  window_.lblMap.caption.set(map);
+  window_.visible.set(true);
 }
 
 void MapInstall::load() {

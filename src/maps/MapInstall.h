@@ -48,6 +48,8 @@ class MapInstall {
   MapInstall& operator=(const MapInstall&) = delete;
   ~MapInstall();
 
+  // Opens the window for a map that is named elsewhere; the user picks a mirror.
+  void showFor(const std::string& map);
   // Starts the download of the wanted map from the selected mirror.
   void downloadMap();
 
@@ -60,6 +62,7 @@ class MapInstall {
 
  private:
   void show();
+  void open();
   void load();
   void press(MirrorCommand command);
   void select();

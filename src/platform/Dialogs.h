@@ -11,11 +11,11 @@ enum class FilePurpose { read, write };
 
 struct FileQuestion {
   FilePurpose purpose = FilePurpose::read;
-  std::string title;        // empty for the platform's own
-  std::string filter;       // "name|pattern|name|pattern"; patterns of one entry are parted by ";"
-  std::string fileName;     // what stands in the dialog at first; empty for nothing
-  std::string folder;       // where it begins; empty for the user's home
-  std::string defaultType;  // "*.html": the extension that a name without one gets
+  std::string title = {};        // empty for the platform's own
+  std::string filter = {};       // "name|pattern|name|pattern"; patterns of one entry are parted by ";"
+  std::string fileName = {};     // what stands in the dialog at first; empty for nothing
+  std::string folder = {};       // where it begins; empty for the user's home
+  std::string defaultType = {};  // "*.html": the extension that a name without one gets
 };
 
 class Dialogs {

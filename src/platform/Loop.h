@@ -29,6 +29,10 @@ class Loop {
 
   // The local date and time, each in the machine's regional format, joined by "-".
   virtual std::string dateAndTime() const = 0;
+  // The same, joined by a blank.
+  virtual std::string generalDate() const = 0;
+  // The local date as "11-22-2026", month first, wherever the machine stands.
+  virtual std::string fixedDate() const = 0;
 
   // True once the program has begun to end: no wait waits any more, and work that lasts should stop.
   virtual bool ending() const = 0;

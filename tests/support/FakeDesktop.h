@@ -25,7 +25,12 @@ struct FakeInstanceLock : InstanceLock {
 
 // Answers from a queue; a question without an answer there fails the test.
 struct FakeDialogs : Dialogs {
-  std::optional<std::string> askFile(const FileQuestion& question) override { return answer(question.filter); }
+  std::optional<std::string> askFile(const FileQuestion& question) override {
+    if (thinkingTime) {
+      thinkingTime();
+    }
+    return answer(question.filter);
+  }
   std::optional<std::string> askText(const std::string& title, const std::string& text,
                                      const std::string& /*preset*/) override {
     return answer(title + "|" + text);
@@ -37,6 +42,7 @@ struct FakeDialogs : Dialogs {
 
   std::deque<std::optional<std::string>> answers;
   std::vector<std::string> asked;
+  std::function<void()> thinkingTime;  // what passes while a file is picked
 
  private:
   std::optional<std::string> answer(const std::string& question) {

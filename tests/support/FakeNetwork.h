@@ -88,8 +88,9 @@ class FakeUdpSocket : public UdpSocket {
   explicit FakeUdpSocket(FakeNetwork& network) : network_(network), inbox_(network.loop) {}
   void send(const std::string& ip, int port, const std::string& bytes) override {
     unsigned a = 0, b = 0, c = 0, d = 0;
-    const int parts = std::sscanf(ip.c_str(), "%3u.%3u.%3u.%3u", &a, &b, &c, &d);
-    if (parts < 4 || (a | b | c | d) > 255 || port < 1 || port > 65535) {
+    char more = 0;
+    const int parts = std::sscanf(ip.c_str(), "%3u.%3u.%3u.%3u%c", &a, &b, &c, &d, &more);
+    if (parts != 4 || (a | b | c | d) > 255 || port < 1 || port > 65535) {
       throw failures::sendFailed("The address cannot be reached");
     }
     const std::string address = ip + ":" + std::to_string(port);

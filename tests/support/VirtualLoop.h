@@ -32,6 +32,8 @@ class VirtualLoop : public Loop {
     std::erase_if(events_, [timer](const auto& event) { return event.second.timer == timer; });
   }
   std::string dateAndTime() const override { return clock; }
+  std::string generalDate() const override { return "11/22/26 21:00:00"; }
+  std::string fixedDate() const override { return "11-22-2026"; }
   bool ending() const override { return ends; }
 
   // Calls `event` once, at a tick count that has not passed.

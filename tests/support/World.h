@@ -15,10 +15,15 @@
 #include "browser/PlayerSearch.h"
 #include "browser/ServerList.h"
 #include "core/StartAndEnd.h"
+#include "export/ServerListExport.h"
+#include "export/ServerReport.h"
 #include "export/modHTML2Text.h"
 #include "join/GameLaunch.h"
 #include "join/SlotWatch.h"
 #include "join/Tools.h"
+#include "links/LinkHandler.h"
+#include "links/modProtocol.h"
+#include "links/modUrlEncode.h"
 #include "maps/MapCheck.h"
 #include "maps/MapInstall.h"
 #include "maps/MapPicker.h"
@@ -59,6 +64,21 @@ struct FakeNotices : Notices {
 
   std::vector<std::string> log;
   std::function<void()> duringBalloon;
+};
+
+// Who opens the links.
+struct FakeSchemes : SchemeHandler {
+  bool isMine(const std::string& /*scheme*/) const override { return owner == "mine"; }
+  void claim(const std::string& /*scheme*/) override {
+    if (refuses) {
+      throw failures::fileAccess();
+    }
+    owner = "mine";
+  }
+  void withdraw(const std::string& /*scheme*/) override { owner.clear(); }
+
+  std::string owner;
+  bool refuses = false;
 };
 
 struct World {
@@ -198,6 +218,15 @@ struct World {
   GameLaunch launch{{wsPass, mainWindow, buddies, commands, notices, files, processes, announcer, gameWatch,
                      [this] { return slotWatch.holdBack(); }}};
   Tools tools{{mainWindow, buddies, commands, notices, files, folder, processes}};
+  FakeSchemes schemes;
+  LinkHandler links{{mainWindow, mirror, players, buddies, commands, notices,
+                     [this](const std::string& map) { install.showFor(map); }, [this] { buddyList.clickBuddy(); }}};
+  modProtocol protocol{{reg, notices, schemes, links, "/programs/vantrel-ce"}};
+  std::vector<int> shownOrder;  // of the server list
+  ServerListExport serverListExport{
+      {loop, mainWindow, commands, dialogs, files, shell, site, version, [this] { return shownOrder; }}};
+  ServerReport serverReport{{loop, mainWindow, commands, notices, files, folder, shell, dialogs, site, version,
+                             [](std::string& name) { return URLEncode(name); }}};
   frmSplash splash{loop};
   StartContext startContext{context, stores, rewrites, settings, splash, lock, version};
 };

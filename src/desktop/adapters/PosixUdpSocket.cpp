@@ -29,7 +29,8 @@ sockaddr_in destination(const std::string& ip, int port) {
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_port = htons(static_cast<std::uint16_t>(port));
-  if (port < 1 || port > 65535 || inet_pton(AF_INET, ip.c_str(), &address.sin_addr) != 1) {
+  if (port < 1 || port > 65535 || ip.find('\0') != std::string::npos ||
+      inet_pton(AF_INET, ip.c_str(), &address.sin_addr) != 1) {
     throw failures::sendFailed("The address is not valid");
   }
   return address;

@@ -8,6 +8,19 @@
 #include "desktop/text/Cp1252.h"
 
 namespace vantrel {
+namespace {
+
+std::string localTime(const char* form) {
+  const std::time_t now = std::time(nullptr);
+  const std::tm* const local = std::localtime(&now);
+  char text[128] = "";
+  if (local == nullptr || std::strftime(text, sizeof text, form, local) == 0) {
+    return {};
+  }
+  return toCp1252(QString::fromLocal8Bit(text));
+}
+
+}  // namespace
 
 QtLoop::QtLoop() {
   clock_.start();
@@ -98,13 +111,15 @@ void QtLoop::stopTimer(TimerId timer) {
 }
 
 std::string QtLoop::dateAndTime() const {
-  const std::time_t now = std::time(nullptr);
-  const std::tm* const local = std::localtime(&now);
-  char text[128] = "";
-  if (local == nullptr || std::strftime(text, sizeof text, "%x-%X", local) == 0) {
-    return {};
-  }
-  return toCp1252(QString::fromLocal8Bit(text));
+  return localTime("%x-%X");
+}
+
+std::string QtLoop::generalDate() const {
+  return localTime("%x %X");
+}
+
+std::string QtLoop::fixedDate() const {
+  return localTime("%m-%d-%Y");
 }
 
 void QtLoop::beginEnding() {

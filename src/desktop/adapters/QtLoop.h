@@ -27,6 +27,8 @@ class QtLoop : public QObject, public Loop {
   TimerId startTimer(int milliseconds, TimerKind kind, std::function<void()> due) override;
   void stopTimer(TimerId timer) override;
   std::string dateAndTime() const override;
+  std::string generalDate() const override;
+  std::string fixedDate() const override;
   bool ending() const override { return ending_; }
 
   // What the sockets of this loop share.

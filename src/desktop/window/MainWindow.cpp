@@ -111,6 +111,10 @@ void MainWindow::bindWindow() {
   applyState();
   bindings_.keep(model_.windowState.changed.connect([this] { applyState(); }));
   bindings_.bindVisible(*this, model_.visible);
+  bindings_.keep(model_.focusWanted.connect([this] {
+    raise();
+    activateWindow();
+  }));
 }
 
 void MainWindow::applyState() {

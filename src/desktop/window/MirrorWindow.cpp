@@ -43,6 +43,7 @@ MirrorWindow::MirrorWindow(frmMirror& model, QWidget* owner)
   column->addLayout(makeTransferButtons());
   resize(usual);
   follow();
+  followFocus(model_.focusWanted);
 }
 
 QPushButton* MirrorWindow::makePress(Button& model, const char* name, char mnemonic, MirrorCommand command) {
