@@ -25,5 +25,6 @@ void benchSweeps(Report& report);
 void benchBuddies(Report& report);
 void benchFlood(Report& report);
 void benchMaps(Report& report);
+void benchFace(Report& report);
 
 }  // namespace vantrel::bench

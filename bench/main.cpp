@@ -20,6 +20,11 @@ int main(int argc, char** argv) {
     vantrel::bench::benchMaps(report);
     return report.allReached() ? 0 : 1;
   }
+  if (argc > 1 && std::string_view(argv[1]) == "--face") {
+    vantrel::bench::benchFace(report);
+    return report.allReached() ? 0 : 1;
+  }
+  vantrel::bench::benchFace(report);
   vantrel::bench::benchStart(report);
   vantrel::bench::benchDetail(report);
   vantrel::bench::benchFlood(report);

@@ -6,7 +6,7 @@ unset CDPATH
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 cd "$root" || exit 1
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libcanberra-dev libcurl4-openssl-dev
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl-dev libcanberra-dev libcurl4-openssl-dev
   libzip-dev)
 # The offscreen platform and Xvfb draw text only when there is a font.
 font_packages=(fontconfig fonts-dejavu-core fonts-liberation)

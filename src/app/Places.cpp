@@ -36,10 +36,7 @@ std::string findAppDir() {
   if (QFileInfo(own).isWritable()) {
     return bytes(own);
   }
-  const QString users = usersFolder(QStandardPaths::GenericDataLocation);
-  QDir().mkpath(users);
-  copyMissing(own + QStringLiteral("/../share/vantrel-ce/gameinfo"), users + QStringLiteral("/gameinfo"));
-  return bytes(users);
+  return bytes(usersFolder(QStandardPaths::GenericDataLocation));
 }
 
 }  // namespace
@@ -51,6 +48,13 @@ Places findPlaces() {
           bytes(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)),
           bytes(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)),
           bytes(QCoreApplication::applicationFilePath())};
+}
+
+void fillAppDir(const Places& places) {
+  const QString appDir = QFile::decodeName(QByteArray::fromStdString(places.appDir));
+  QDir().mkpath(appDir);
+  copyMissing(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/vantrel-ce/gameinfo"),
+              appDir + QStringLiteral("/gameinfo"));
 }
 
 }  // namespace vantrel

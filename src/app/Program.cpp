@@ -62,10 +62,16 @@ Program::Program(Site site, const Version& version, const Places& places, std::s
       exchange_({ws1_, loop_, frmMain_, frmPlayers_, sweep_, progress_, site_}),
       startAndEnd_({storeContext_, stores_, rewrites_, settings_, frmSplash_, lock_, version},
                    {.layoutPanels = [this] { layout_.layoutPanels(); },
-                    .loadColors = {},
+                    .loadColors = [this] { modColors_.loadColors(); },
                     .LoadTools = [this] { tools_.LoadTools(); },
                     .prepareFavorites = {},
-                    .handOverLink = [this] { modProtocol_.registerProtocolHandler(commandLine_); }}),
+                    .handOverLink =
+                        [this] {
+                          modTray_.load();
+                          modProtocol_.registerProtocolHandler(commandLine_);
+                        }}),
+      modTray_({tray_, frmMain_, notices_, [this] { commands_.clickIt(command::showAbout); },
+                [this] { startAndEnd_.close(); }}),
       splashWindow_(frmSplash_),
       window_(frmMain_, commands_, progress_, frmMsg_),
       msgWindow_(frmMsg_, &window_),
@@ -83,6 +89,7 @@ Program::Program(Site site, const Version& version, const Places& places, std::s
   frmMsg_.txtWav.text.set(openSlotSound(places.appDir));
   startAndEnd_.addWindow([this] { frmPlayers_.visible.set(false); });
   startAndEnd_.addWindow([this] { frmMsg_.visible.set(false); });
+  startAndEnd_.addWindow([this] { colorEditor_.unload(); });
   startAndEnd_.addWindow([this] {
     frmMaps_.visible.set(false);
     mapInstall_.unload();
@@ -90,6 +97,7 @@ Program::Program(Site site, const Version& version, const Places& places, std::s
   connectPlayers();
   keepColumns();
   connectEnd();
+  connectNotices();
 }
 
 void Program::connectPlayers() {
@@ -130,6 +138,15 @@ void Program::connectEnd() {
     loop_.beginEnding();
     QApplication::exit();
   }));
+}
+
+// The main window comes up beneath a message that is on show. At the end that is not cut off; it fades while the
+// stores are written.
+void Program::connectNotices() {
+  connections_.push_back(frmMain_.visible.changed.connect([this] { frmPopMsg_.focusWanted.fire(); }));
+  startAndEnd_.addWindow([this] { popupDisplays_.endAll(); });
+  startAndEnd_.addWindow([this] { frmPopMsg_.requestUnload(); });
+  startAndEnd_.addWindow([this] { modTray_.release(); });
 }
 
 void Program::run() {

@@ -4,7 +4,10 @@
 #include <string>
 
 #include "app/Places.h"
+#include "appearance/Announcements.h"
+#include "appearance/ColorEditor.h"
 #include "appearance/WindowLayout.h"
+#include "appearance/modTray.h"
 #include "browser/BuddyList.h"
 #include "browser/Favorites.h"
 #include "browser/InputBoxes.h"
@@ -33,19 +36,22 @@
 #include "desktop/adapters/PosixUdpSocket.h"
 #include "desktop/adapters/QtDialogs.h"
 #include "desktop/adapters/QtLoop.h"
-#include "desktop/adapters/QtNotices.h"
+#include "desktop/adapters/QtPopupDisplays.h"
 #include "desktop/adapters/QtPopupMenu.h"
 #include "desktop/adapters/QtShell.h"
+#include "desktop/adapters/QtTray.h"
 #include "desktop/adapters/SettingsRegistry.h"
 #include "desktop/adapters/WinePrefix.h"
 #include "desktop/adapters/XdgSchemes.h"
 #include "desktop/adapters/ZipUnzipLibrary.h"
 #include "desktop/window/BuddiesWindow.h"
+#include "desktop/window/ColorsWindow.h"
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/MapsWindow.h"
 #include "desktop/window/MirrorWindow.h"
 #include "desktop/window/MsgWindow.h"
 #include "desktop/window/PlayersWindow.h"
+#include "desktop/window/PopMsgWindow.h"
 #include "desktop/window/SplashWindow.h"
 #include "export/ServerListExport.h"
 #include "export/ServerReport.h"
@@ -81,6 +87,7 @@ class Program {
   frmBuddies& buddies() { return frmBuddies_; }
   frmPlayers& players() { return frmPlayers_; }
   frmMirror& mirror() { return frmMirror_; }
+  frmColors& colors() { return frmColors_; }
   DownLoad& download() { return dl1_; }
   Commands& commands() { return commands_; }
   SweepProgress& progress() { return progress_; }
@@ -99,16 +106,22 @@ class Program {
   void connectPlayers();
   void keepColumns();
   void connectEnd();
+  void connectNotices();
 
   Site site_;
   std::string commandLine_;
   QtLoop loop_;
   DiskFiles files_;
-  QtNotices notices_{loop_};
   QtDialogs dialogs_{loop_};
   QtPopupMenu popupMenu_{loop_};
   WinePrefix winePrefix_;
   SettingsRegistry registry_;
+  frmPopMsg frmPopMsg_{loop_, registry_};
+  PopMsgWindow popMsgWindow_{frmPopMsg_};
+  frmPopup frmPopup_;
+  QtPopupDisplays popupDisplays_;
+  Announcements notices_{{loop_, frmPopMsg_, frmPopup_, popupDisplays_, dialogs_}};
+  QtTray tray_;
   LockFile lock_;
   PosixTcpSocket ws1_{loop_.nesting()};
   PosixUdpSocket ws2_{loop_.nesting()};
@@ -133,6 +146,7 @@ class Program {
   frmMirror frmMirror_;
   frmMaps frmMaps_;
   frmMsg frmMsg_{loop_};
+  frmColors frmColors_;
   ProfileFiles profiles_;
   StoreContext storeContext_;
   modFavesIni stores_;
@@ -147,6 +161,8 @@ class Program {
   ServerList serverList_;
   AutoSwitches autoSwitches_;
   WindowLayout layout_;
+  modColors modColors_{frmMain_, modReg_};
+  ColorEditor colorEditor_{{frmMain_, frmColors_, modColors_, notices_, shell_}};
   DetailView detailView_;
   SweepProgress progress_;
   MapCheck mapCheck_;
@@ -171,6 +187,7 @@ class Program {
   Sweep sweep_;
   MasterExchange exchange_;
   StartAndEnd startAndEnd_;
+  modTray modTray_;
   SplashWindow splashWindow_;
   MainWindow window_;
   MsgWindow msgWindow_;
@@ -180,6 +197,7 @@ class Program {
   ServerReport serverReport_;
   MirrorWindow mirrorWindow_;
   MapsWindow mapsWindow_;
+  ColorsWindow colorsWindow_{frmColors_, &window_};
   std::vector<Connection> connections_;
 };
 

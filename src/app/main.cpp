@@ -63,11 +63,13 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(vantrel::programIcon());
   vantrel::applyTheme(application);
   {
+    const vantrel::Places places = vantrel::findPlaces();
+    vantrel::fillAppDir(places);
     vantrel::PosixEndSignals endSignals;  // kept to the end, so that a second request does not cut off the last write
     vantrel::Program program({VANTREL_MASTER_HOST, VANTREL_MIRROR, VANTREL_MIRROR_SITE, VANTREL_MAKER_SITE,
                               VANTREL_MAKER_NAME, VANTREL_AUTHOR_SITE},
-                             {VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_REVISION},
-                             vantrel::findPlaces(), commandLine());
+                             {VANTREL_VERSION_MAJOR, VANTREL_VERSION_MINOR, VANTREL_VERSION_REVISION}, places,
+                             commandLine());
     const vantrel::Connection ended = endSignals.received.connect([&program] { program.end(); });
     program.run();
   }

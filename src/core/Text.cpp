@@ -96,6 +96,19 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
   return replaced.append(text);
 }
 
+std::string replaceUpTo(std::size_t most, std::string_view text, std::string_view from, std::string_view to) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from, at + from.size())) {
+    ++count;
+  }
+  const bool grows = to.size() > from.size();
+  const std::size_t room = most > text.size() ? most - text.size() : 0;
+  if (count == 0 || (grows && count > room / (to.size() - from.size()))) {
+    return std::string(text);
+  }
+  return replaceAll(text, from, to);
+}
+
 std::string_view trimBlanks(std::string_view text) {
   while (!text.empty() && isBlank(text.front())) {
     text.remove_prefix(1);

@@ -25,6 +25,8 @@ std::string_view trimSpaces(std::string_view text);
 
 // Each `from` (not empty), from left to right, replaced; what that brings together stays.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+// The same, unless the text would grow beyond `most` bytes: it then stays as it is.
+std::string replaceUpTo(std::size_t most, std::string_view text, std::string_view from, std::string_view to);
 
 // Without the blanks and TABs at both ends.
 std::string_view trimBlanks(std::string_view text);

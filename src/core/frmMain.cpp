@@ -165,6 +165,9 @@ void frmMain::nameLabels() {
   for (std::size_t i = 0; i < chkOptions.size(); ++i) {
     chkOptions[i].caption.set(optionCaptions[i]);
   }
+  lblPlayers.caption.set("Players");
+  lblThemes.caption.set("Vantrel CE Color Themes:");
+  cmdColors.caption.set("Colors...");
   chkSplash.caption.set("No splash screen");
   chkOldSplash.caption.set("Old splash screen");
 }
@@ -175,6 +178,8 @@ void frmMain::fillLists() {
   cmbGameType.items.set({"Undefined", "CTF", "Slayer", "Juggernaut", "King", "Crazy King", "Race", "Oddball", "Assault",
                          "Team Slayer", "Team Oddball", "Team Race", "Custom Mod", "Other"});
   cmbGameType.text.set("Undefined");
+  cmbThemes.items.set({"Default Color Theme", "-=[ Blue Lagoon ]=-", "-=[ Bloody Red Babies ]=-"});
+  cmbThemes.text.set("Default Color Theme");
   picJoin.image.set("off");
   picRefresh.image.set("off");
   picExeStatus.image.set("off");

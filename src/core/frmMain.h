@@ -52,6 +52,25 @@ enum Number : int {
 };
 }  // namespace command
 
+// Numbers of the boxes that labels stand in.
+namespace infoBox {
+enum Number : int {
+  currentServer,
+  search,
+  totals,
+  listTitle,
+  summary,
+  refresh,
+  game,
+  startup,
+  queries,
+  announcements,
+  hide,
+  chat,
+  count,
+};
+}  // namespace infoBox
+
 struct frmMain {
   // `loop` must outlive the window.
   explicit frmMain(Loop& loop);
@@ -79,6 +98,8 @@ struct frmMain {
   TextBox txtOther;
   Timer tmrPing;  // starts a pass of pings over the list
 
+  Label lblPlayers;  // over the number of players
+
   // The name searched for during a sweep; empty for none.
   TextBox txtPlayer;
 
@@ -86,6 +107,7 @@ struct frmMain {
   Panel PicBG;
   Panel PicServers;
   Panel PicChat;
+  Panel picLaunch;  // never shown
   Panel PicAbout;
   Label lblVer;
 
@@ -116,6 +138,10 @@ struct frmMain {
   ComboBox cmbTab;  // names of pages; nothing hangs on it
   Picture picJoin;
   Picture picRefresh;
+  Label lblThemes;         // beside the themes
+  ComboBox cmbThemes;      // names of colour themes; nothing hangs on it
+  Button cmdColors;        // opens the colours' window
+  Signal<> colorsClicked;  // fired by a view: cmdColors
 
   // The tools page.
   Panel picTools;
@@ -145,6 +171,10 @@ struct frmMain {
   // Captions and single values, by number.
   std::array<Label, 48> lblText;
   std::array<Label, 13> lblText2;
+
+  // The boxes that labels stand in, and a line.
+  std::array<Shape, infoBox::count> shpInfo;
+  Shape Line1;
 
   // One button a command, under the command's number.
   std::array<Button, 43> cmdMenu;

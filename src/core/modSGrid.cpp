@@ -15,7 +15,7 @@ constexpr int pingImage = 4;
 
 void SetupGrid(ServerGrid& grid) {
   grid.redraw.set(false);
-  GridLook look;
+  GridLook look = grid.look();  // which has its colours already
   look.rowHeight = 19;
   look.groupingHint = "Drag columns here for advanced filtering:";
   grid.setLook(look);

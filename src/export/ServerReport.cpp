@@ -10,8 +10,8 @@ namespace {
 constexpr const char* templateFile = "\\gameinfo\\export.htm";
 constexpr const char* reportFile = "\\gameinfo\\1234.html";
 constexpr const char* nobody = "0 Players";
-constexpr std::size_t longestLine = 1 << 20;      // bytes; what is longer stays as it is
-constexpr std::size_t mostGrowth = 1 << 20;       // bytes; a line that is full of placeholders grows no further
+constexpr std::size_t longestLine = 1 << 18;      // bytes; what is longer stays as it is
+constexpr std::size_t mostGrowth = 1 << 18;       // bytes; a line that is full of placeholders grows no further
 constexpr int mostBlocks = 16;                    // of a team on one line
 constexpr std::size_t largestReport = 64U << 20;  // bytes
 const std::string otherPlace(2, '\0');            // stands for the same placeholder further to the right
@@ -75,7 +75,7 @@ void ServerReport::makeServerReport(const std::string& output) {
   }
   for (std::string& line : lines) {
     if (report.size() > largestReport) {
-      break;
+      throw failures::outOfMemory();
     }
     if (line.ends_with('\r')) {
       line.pop_back();
@@ -95,7 +95,7 @@ std::string ServerReport::fill(const std::string& line) const {
   std::string filled = line;
   for (const Placeholder& each : placeholders()) {
     const std::string name = each.name;
-    if (filled.find(name) == std::string::npos || filled.size() > line.size() + mostGrowth) {
+    if (filled.find(name) == std::string::npos) {
       continue;
     }
     if (name == red.placeholder) {
@@ -105,7 +105,7 @@ std::string ServerReport::fill(const std::string& line) const {
     } else if (name == "%SERVER_PLAYERS") {
       filled = playerList(filled);
     } else {
-      filled = replaceAll(filled, name, each.value(*this));
+      filled = replaceUpTo(line.size() + mostGrowth, filled, name, each.value(*this));
     }
   }
   return filled;
@@ -178,7 +178,8 @@ const std::vector<ServerReport::Placeholder>& ServerReport::placeholders() {
 }
 
 bool ServerReport::isEmptyServer() const {
-  return c_.mainWindow.ListView2.cell(1, 1) == nobody;
+  const ListView& list = c_.mainWindow.ListView2;
+  return list.rowCount() > 0 && list.cell(list.rowsInOrder().front(), 1) == nobody;
 }
 
 int ServerReport::countOf(const std::string& team) const {
@@ -192,9 +193,10 @@ int ServerReport::countOf(const std::string& team) const {
 
 // Each block as if it were the only one on the line, from left to right.
 std::string ServerReport::teamBlocks(std::string line, const Team& team) const {
-  const std::size_t most = line.size() + mostGrowth;
-  for (int block = 0; block < mostBlocks && line.find(team.placeholder) != std::string::npos && line.size() <= most;
-       ++block) {
+  for (int block = 0; block < mostBlocks && line.find(team.placeholder) != std::string::npos; ++block) {
+    if (line.find(otherPlace) != std::string::npos) {
+      return teamBlock(line, team);
+    }
     const std::size_t behind = line.find(team.placeholder) + team.placeholder.size();
     line = line.substr(0, behind) + replaceAll(line.substr(behind), team.placeholder, otherPlace);
     line = replaceAll(teamBlock(line, team), otherPlace, team.placeholder);
@@ -207,28 +209,28 @@ std::string ServerReport::teamBlock(std::string line, const Team& team) const {
   const ListView& list = c_.mainWindow.ListView2;
   const std::size_t most = line.size() + mostGrowth;
   int counter = 1;
-  for (int row = 1; row <= list.rowCount() && line.size() <= most; ++row) {
+  for (const int row : list.rowsInOrder()) {
     if (list.cell(row, 3) != team.name) {
       continue;
     }
     const std::size_t odd = static_cast<std::size_t>(++counter % 2);
-    line = replaceAll(line, team.placeholder,
-                      std::string("<tr class=") + (odd == 1 ? "oddrow" : "evenrow") + "><td class=" + team.lower +
-                          "team>" + team.before[odd] +
-                          "<a href=halo://player/%URL_PLAYER_NAME title='Add %PLAYER_NAME to your Vantrel CE Buddy "
-                          "List!'>%PLAYER_NAME</a>" +
-                          team.behind + "</td><td class=" + team.lower +
-                          "score>&nbsp;&nbsp; %PLAYER_INFO &nbsp;</td></tr>\r\n");
+    line = replaceUpTo(most, line, team.placeholder,
+                       std::string("<tr class=") + (odd == 1 ? "oddrow" : "evenrow") + "><td class=" + team.lower +
+                           "team>" + team.before[odd] +
+                           "<a href=halo://player/%URL_PLAYER_NAME title='Add %PLAYER_NAME to your Vantrel CE Buddy "
+                           "List!'>%PLAYER_NAME</a>" +
+                           team.behind + "</td><td class=" + team.lower +
+                           "score>&nbsp;&nbsp; %PLAYER_INFO &nbsp;</td></tr>\r\n");
     std::string name = list.cell(row, 1);
     const std::string shown = name;
-    line = replaceAll(line, "%URL_PLAYER_NAME", c_.urlEncode(name));
-    line = replaceAll(line, "%PLAYER_NAME", shown);
-    line = replaceAll(line, "%PLAYER_INFO", scoreText(list.cell(row, 2), team));
+    line = replaceUpTo(most, line, "%URL_PLAYER_NAME", c_.urlEncode(name));
+    line = replaceUpTo(most, line, "%PLAYER_NAME", shown);
+    line = replaceUpTo(most, line, "%PLAYER_INFO", scoreText(list.cell(row, 2), team));
     line += team.placeholder;
   }
   line = "<table>" + line + "</table>";
   if (isEmptyServer()) {
-    line = replaceAll(list.rowCount() == 1 ? team.placeholder : line, team.placeholder, team.nobodyText);
+    line = replaceUpTo(most, list.rowCount() == 1 ? team.placeholder : line, team.placeholder, team.nobodyText);
   }
   return replaceAll(line, team.placeholder, "");
 }
@@ -254,16 +256,17 @@ std::string ServerReport::scoreText(const std::string& score, const Team& team) 
 std::string ServerReport::playerList(std::string line) const {
   const std::string placeholder = "%SERVER_PLAYERS";
   const ListView& list = c_.mainWindow.ListView2;
-  line = replaceAll(line, placeholder, "<ul> " + placeholder + "</ul>");
+  line = replaceUpTo(line.size() + mostGrowth, line, placeholder, "<ul> " + placeholder + "</ul>");
   if (list.rowCount() == 0 || (list.rowCount() == 1 && isEmptyServer())) {
-    return replaceAll(line, placeholder, "No players are connected.");
+    return replaceUpTo(line.size() + mostGrowth, line, placeholder, "No players are connected.");
   }
   const std::string type = c_.mainWindow.ListView1.cell(10, 2);
   const std::string tail = type == "CTF" || type == "Assault" ? " Flag Captures" : type == "Slayer" ? " Kills" : "";
   const std::size_t most = line.size() + mostGrowth;
-  for (int row = 1; row <= list.rowCount() && line.size() <= most; ++row) {
-    line = replaceAll(line, placeholder,
-                      "<li> <b>" + list.cell(row, 1) + "</b> - (" + list.cell(row, 2) + tail + ") </li>" + placeholder);
+  for (const int row : list.rowsInOrder()) {
+    line =
+        replaceUpTo(most, line, placeholder,
+                    "<li> <b>" + list.cell(row, 1) + "</b> - (" + list.cell(row, 2) + tail + ") </li>" + placeholder);
   }
   return replaceAll(line, placeholder, "");
 }

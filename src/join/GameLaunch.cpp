@@ -130,8 +130,9 @@ void GameLaunch::announce(const Datagram& datagram, const StatusReply& reply) {
 
 std::string GameLaunch::commandLine(const std::string& passArg) const {
   const frmMain& window = c_.mainWindow;
-  const std::string& ip = window.txtIP.text.get();
-  const std::string& port = window.txtPort.text.get();
+  // Blanks around them would part them into more than one argument.
+  const std::string ip(trimBlanks(window.txtIP.text.get()));
+  const std::string port(trimBlanks(window.txtPort.text.get()));
   const std::string connectArg = port.empty() ? "" : ip.empty() ? " " : " -connect " + ip + ":" + port;
   return switchText(window.chkOptions[1], " -console") + switchText(window.chkOptions[0], " -screenshot") +
          switchText(window.chkOptions[3], " -novideo") + switchText(window.chkOptions[2], " -nojoystick") + passArg +

@@ -21,7 +21,7 @@ void SlotWatch::connectPrompt() {
   connections_.push_back(c_.prompt.closed.connect([this] { closePrompt(); }));
   connections_.push_back(c_.prompt.tmr1.tick.connect([this] {
     c_.prompt.tmr1.switchOff();
-    c_.sound.play(c_.prompt.txtWav.text.get());
+    c_.sound.PlayWav(c_.prompt.txtWav.text.get());
   }));
 }
 
@@ -91,7 +91,7 @@ void SlotWatch::hear(const ServerLoad& load) {
   }
   joining_ = true;
   c_.notices.ShowPopMsg(c_.mainWindow.lblData.caption.get() + "\r\n has an open spot!");
-  c_.sound.play(c_.prompt.txtWav.text.get());
+  c_.sound.PlayWav(c_.prompt.txtWav.text.get());
   joining_ = false;
   // While the sound was heard the waiting may have ended, or the slot been taken.
   if (waiting_ && !isFull()) {

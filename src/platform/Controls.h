@@ -21,6 +21,12 @@ inline constexpr Color green = 65280;
 inline constexpr Color white = 16777215;
 inline constexpr Color systemFace = 0x8000000F;  // what lies behind a control, unless it has a colour of its own
 inline constexpr Color systemText = 0x80000008;  // what text is written in, likewise
+inline constexpr Color systemButtonText = 0x80000012;
+
+inline constexpr Color systemBit = 0x80000000;
+constexpr bool isSystem(Color color) {
+  return (color & systemBit) != 0;
+}
 }  // namespace colors
 
 // Codes of the keys that the logic looks at; a key that types has the code of its character.
@@ -43,6 +49,7 @@ enum class MouseButton { left, right, middle };
 struct TextBox {
   Field<std::string> text;
   Field<bool> enabled{true};
+  Field<bool> visible{true};
   Field<std::string> toolTip;
   Field<Color> foreColor{colors::systemText};
 
@@ -63,11 +70,16 @@ struct Button {
   Field<bool> enabled{true};
   Field<bool> visible{true};
   Field<int> value{0};  // of a button in an option pair: other than 0 when it is the pressed one
+  Field<Color> foreColor{colors::systemButtonText};
+  Field<Color> backColor{colors::systemFace};
+  Field<Color> gradientColor{colors::systemFace};
 };
 
 struct CheckBox {
   Field<std::string> caption;
   Field<int> value{0};  // 0 unchecked, 1 checked, 2 neither
+  Field<Color> foreColor{colors::systemText};
+  Field<Color> backColor{colors::systemFace};
 
   bool isChecked() const { return value.get() == 1; }
 };
@@ -81,6 +93,7 @@ struct ComboBox {
 // A small picture out of a list of pictures with names.
 struct Picture {
   Field<std::string> image;  // name of the picture on show
+  Field<Color> backColor{colors::systemFace};
 
   Signal<> clicked;  // fired by a view
 };
@@ -89,6 +102,13 @@ struct Picture {
 struct Panel {
   Field<bool> visible{false};
   Field<Placement> place;
+  Field<Color> backColor{colors::systemFace};
+};
+
+// A box or a line behind other controls, to be looked at only.
+struct Shape {
+  Field<Color> backColor{colors::systemFace};  // of a box
+  Field<Color> borderColor{colors::systemText};
 };
 
 // Lines of text, numbered from 0.

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Field.h"
+#include "platform/Controls.h"
 
 namespace vantrel {
 
@@ -15,6 +15,17 @@ struct FavoriteItem {
   std::string name;
 
   bool operator==(const FavoriteItem& other) const = default;
+};
+
+// The colours of a list and of the parts of an item; those of the system as long as nobody gives it any.
+struct FavoritesLook {
+  Color background = colors::systemFace;
+  Color selection = colors::systemFace;  // behind the selected item
+  Color name = colors::systemText;
+  Color hostname = colors::systemText;
+  Color gametype = colors::systemText;
+
+  bool operator==(const FavoritesLook& other) const = default;
 };
 
 class FavoritesList {
@@ -47,6 +58,7 @@ class FavoritesList {
 
   // Path of the picture behind the items; empty for none.
   Field<std::string> picture;
+  Field<FavoritesLook> look;
 
   Signal<int> itemClicked;  // item; fired by a view
   Signal<> changed;         // items or selection

@@ -51,6 +51,8 @@ class ListView {
   Field<bool> visible{false};
   Field<Placement> place;
   Field<ListSort> sort;
+  Field<Color> foreColor{colors::systemText};
+  Field<Color> backColor{colors::systemFace};
 
   // Fired by a view.
   Signal<int> columnClicked;  // column; on its header

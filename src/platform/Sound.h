@@ -13,7 +13,7 @@ class Sound {
   // at once while the program ends; events run meanwhile. `path`: in the system's own bytes. Silent, and back at once,
   // when there is no such file, it is none that can be played, another sound is being played or the machine has no
   // sound; no other sound is heard in its place.
-  virtual void play(const std::string& path) = 0;
+  virtual void PlayWav(const std::string& path) = 0;
 };
 
 }  // namespace vantrel

@@ -147,6 +147,9 @@ TEST_F(ExportTest, players_come_in_blocks_by_their_teams) {
   };
   EXPECT_EQ(report("x%SERVER_RPLAYERS y"),
             "<table>x" + red("even", "A%20b", "A b", "3") + " y" + red("odd", "D", "D", "2") + "</table>\r\n\r\n");
+  mainWindow.ListView2.sort.set({1, SortOrder::descending, true});
+  EXPECT_TRUE(report("%SERVER_PLAYERS").starts_with("<ul> <li> <b>E</b>")) << "as they are shown";
+  mainWindow.ListView2.sort.set({});
   EXPECT_EQ(report("%SERVER_RPLAYERS|%SERVER_RPLAYERS"),
             "<table><table>" + red("even", "A%20b", "A b", "3") + "|" + red("even", "A%20b", "A b", "3") +
                 red("odd", "D", "D", "2") + "</table>" + red("odd", "D", "D", "2") + "</table>\r\n\r\n");
@@ -175,13 +178,27 @@ TEST_F(ExportTest, no_template_and_no_name_can_hold_up_a_report) {
   }
   for (const std::string each : {"%", "%SERVER_RPLAYERS", "%SERVER_PLAYERS", "%SERVER_URL", "x"}) {
     std::string page;
-    while (page.size() < 300'000) {
+    while (page.size() < 100'000) {
       page += each;
     }
     const std::size_t made = report(page + "\n" + std::string(10'000'000, '%')).size();
     EXPECT_GT(made, 10'000'000U) << each;
     EXPECT_LT(made, 100'000'000U) << each;
   }
+  const auto many = [](const std::string& word, std::size_t bytes) {
+    std::string all;
+    while (all.size() < bytes) {
+      all += word;
+    }
+    return all;
+  };
+  mainWindow.ListView2.clear();
+  addPlayer(many("%PLAYER_INFO", 2000), many("%SERVER_RPLAYERS", 1600), "Red");
+  addPlayer(many("%PLAYER_INFO", 2000), std::string(2000, '9'), "Red");
+  mainWindow.lblData.caption.set(many("%SERVER_PMAX", 15000));
+  mainWindow.ListView1.setCell(3, 2, many("%SERVER_GVAR", 700));
+  mainWindow.ListView1.setCell(12, 2, std::string(40000, 'v'));
+  EXPECT_LT(report("%SERVER_RPLAYERS\n%SERVER_NAME").size(), 10'000'000U) << "a reply of a few kilobytes";
   files.full = true;
   dialogs.answers = {"seen"};
   const std::string old = files.bytes("/app/gameinfo/1234.html");

@@ -10,7 +10,9 @@
 #include <vector>
 
 #include "platform/Dialogs.h"
+#include "platform/Failure.h"
 #include "platform/InstanceLock.h"
+#include "platform/SchemeHandler.h"
 #include "platform/Shell.h"
 #include "platform/cPopupMenu.h"
 
@@ -83,6 +85,21 @@ struct FakeShell : Shell {
   bool opens = true;
   std::vector<std::string> opened;
   std::string clipboard;
+};
+
+// Who opens the links.
+struct FakeSchemes : SchemeHandler {
+  bool isMine(const std::string& /*scheme*/) const override { return owner == "mine"; }
+  void claim(const std::string& /*scheme*/) override {
+    if (refuses) {
+      throw failures::fileAccess();
+    }
+    owner = "mine";
+  }
+  void withdraw(const std::string& /*scheme*/) override { owner.clear(); }
+
+  std::string owner;
+  bool refuses = false;
 };
 
 }  // namespace vantrel

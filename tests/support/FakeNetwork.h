@@ -90,7 +90,7 @@ class FakeUdpSocket : public UdpSocket {
     unsigned a = 0, b = 0, c = 0, d = 0;
     char more = 0;
     const int parts = std::sscanf(ip.c_str(), "%3u.%3u.%3u.%3u%c", &a, &b, &c, &d, &more);
-    if (parts != 4 || (a | b | c | d) > 255 || port < 1 || port > 65535) {
+    if (parts != 4 || ip.find('\0') != std::string::npos || (a | b | c | d) > 255 || port < 1 || port > 65535) {
       throw failures::sendFailed("The address cannot be reached");
     }
     const std::string address = ip + ":" + std::to_string(port);

@@ -10,7 +10,7 @@
 namespace vantrel {
 
 struct FakeSound : Sound {
-  void play(const std::string& path) override {
+  void PlayWav(const std::string& path) override {
     played.push_back(path);
     if (duringSound) {
       duringSound();

@@ -79,7 +79,9 @@ TYPED_TEST_P(UdpSocketContract, a_refused_datagram_is_error_10054_with_its_addre
 
 TYPED_TEST_P(UdpSocketContract, an_address_that_is_none_and_a_port_that_is_none_are_failures) {
   const int open = this->harness.openPeer({});
-  for (const char* none : {"master.example.test", "", "1.2.3", "1.2.3.256"}) {
+  const std::string withZero("192.0.2.1\0x", 11);
+  for (const std::string& none : {std::string("master.example.test"), std::string(), std::string("1.2.3"),
+                                  std::string("1.2.3.256"), std::string("192.0.2.1 -x"), withZero}) {
     EXPECT_THROW(this->socket.send(none, open, "?"), Failure) << none;
   }
   for (const int none : {0, -1, 65536}) {

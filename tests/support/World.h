@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "appearance/ColorEditor.h"
 #include "appearance/WindowLayout.h"
 #include "browser/BuddyList.h"
 #include "browser/Favorites.h"
@@ -64,21 +65,6 @@ struct FakeNotices : Notices {
 
   std::vector<std::string> log;
   std::function<void()> duringBalloon;
-};
-
-// Who opens the links.
-struct FakeSchemes : SchemeHandler {
-  bool isMine(const std::string& /*scheme*/) const override { return owner == "mine"; }
-  void claim(const std::string& /*scheme*/) override {
-    if (refuses) {
-      throw failures::fileAccess();
-    }
-    owner = "mine";
-  }
-  void withdraw(const std::string& /*scheme*/) override { owner.clear(); }
-
-  std::string owner;
-  bool refuses = false;
 };
 
 struct World {
@@ -175,6 +161,7 @@ struct World {
   ServerList serverList{mainWindow, commands, notices, menu, loop};
   AutoSwitches switches{mainWindow, commands, settings};
   WindowLayout layout{mainWindow};
+  modColors colorTheme{mainWindow, reg};
   DetailView detail{mainWindow, commands, version};
   FakeUdpSocket wsHaloData{network};
   FakeIcmp icmp{network};
@@ -186,6 +173,8 @@ struct World {
   FakeConnectivity connectivity;
   FakeUnzipLibrary unzipLibrary{files};
   FakeShell shell;
+  frmColors colorsWindow;
+  ColorEditor colorEditor{{mainWindow, colorsWindow, colorTheme, notices, shell}};
   frmMaps picker;
   modHTML2Text reduction{loop, files};
   DownLoad dl1{{loop, I1, files, disk, dialogs, connectivity}};

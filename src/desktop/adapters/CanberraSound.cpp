@@ -97,7 +97,7 @@ std::string bytes(const QString& path) {
 }  // namespace
 
 // Events run in the waits, and one of them may take this object away: only copies are used from there on.
-void CanberraSound::play(const std::string& path) {
+void CanberraSound::PlayWav(const std::string& path) {
   const auto playing = std::make_shared<Playing>();
   if (loop_.ending() || !isSmallFile(path) || !errand_.begin([playing, path] { playing->run(path); })) {
     return;

@@ -13,7 +13,7 @@ class CanberraSound : public Sound {
 
   // A file of more than 4 MB is none that can be played. A sound server that hangs is waited for as long as a sound may
   // last, with events running; until it has let go of that sound, every other one is silent.
-  void play(const std::string& path) override;
+  void PlayWav(const std::string& path) override;
 
  private:
   Loop& loop_;

@@ -9,8 +9,8 @@
 #include <QMessageBox>
 #include <memory>
 
-#include "desktop/adapters/NoticeLayout.h"
 #include "desktop/text/Cp1252.h"
+#include "desktop/text/NoticeLayout.h"
 
 namespace vantrel {
 namespace {

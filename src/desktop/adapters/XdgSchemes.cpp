@@ -1,9 +1,11 @@
 #include "desktop/adapters/XdgSchemes.h"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 #include <vector>
 
+#include "core/FailureStyles.h"
 #include "core/Text.h"
 #include "platform/Failure.h"
 
@@ -17,17 +19,44 @@ std::string mimeType(const std::string& scheme) {
   return "x-scheme-handler/" + scheme;
 }
 
+std::string_view trimLine(std::string_view line) {
+  return trimBlanks(line.ends_with('\r') ? line.substr(0, line.size() - 1) : line);
+}
+
+// What stands behind "=" in a line of this key; nothing in any other line.
+std::optional<std::string> valueIn(const std::string& line, const std::string& key) {
+  const std::string_view text = trimLine(line);
+  const std::size_t at = text.find('=');
+  if (at == std::string_view::npos || trimBlanks(text.substr(0, at)) != key) {
+    return std::nullopt;
+  }
+  return std::string(trimBlanks(text.substr(at + 1)));
+}
+
 std::string valueOf(const std::string& list, const std::string& key) {
   bool isInSection = false;
+  std::string value;
   for (const std::string& line : split(list, '\n')) {
-    const std::string_view text = trimBlanks(line);
+    const std::string_view text = trimLine(line);
     if (text.starts_with('[')) {
       isInSection = text == section;
-    } else if (isInSection && text.starts_with(key + "=")) {
-      return std::string(text.substr(key.size() + 1));
+    } else if (isInSection) {
+      value = valueIn(line, key).value_or(value);
     }
   }
-  return {};
+  return value;
+}
+
+// The entries of such a value, each with ";" behind it, without ours.
+std::string othersIn(const std::string& value) {
+  std::string others;
+  for (const std::string& each : split(value, ';')) {
+    const std::string_view name = trimBlanks(each);
+    if (!name.empty() && name != entryName) {
+      others += std::string(name) + ";";
+    }
+  }
+  return others;
 }
 
 void makeFolderOf(const std::string& path) {
@@ -68,8 +97,8 @@ std::string withDefault(const std::string& list, const std::string& key, const s
     lines.pop_back();
   }
   for (const std::string& line : lines) {
-    const std::string_view text = trimBlanks(line);
-    if (isInSection && text.starts_with(key + "=")) {
+    const std::string_view text = trimLine(line);
+    if (isInSection && valueIn(line, key)) {
       continue;
     }
     changed += line + "\n";
@@ -107,12 +136,21 @@ bool XdgSchemes::isMine(const std::string& scheme) const {
 }
 
 void XdgSchemes::claim(const std::string& scheme) {
-  if (hasHome()) {
-    makeFolderOf(entryPath());
-    makeFolderOf(listPath());
-    const std::string list = contentOf(listPath());
-    files_.replace(entryPath(), entry(scheme));
-    files_.replace(listPath(), withDefault(list, mimeType(scheme), std::string(entryName) + ";"));
+  if (!hasHome()) {
+    return;
+  }
+  makeFolderOf(entryPath());
+  makeFolderOf(listPath());
+  const std::string list = contentOf(listPath());
+  const std::string key = mimeType(scheme);
+  const bool hadEntry = files_.stamp(entryPath()).has_value();
+  const std::string before = contentOf(entryPath());
+  files_.replace(entryPath(), entry(scheme));
+  try {
+    files_.replace(listPath(), withDefault(list, key, std::string(entryName) + ";" + othersIn(valueOf(list, key))));
+  } catch (const Failure&) {
+    stopSilently([&] { hadEntry ? files_.replace(entryPath(), before) : files_.remove(entryPath()); });
+    throw;
   }
 }
 
@@ -121,8 +159,9 @@ void XdgSchemes::withdraw(const std::string& scheme) {
     return;
   }
   const std::string list = contentOf(listPath());
-  if (split(valueOf(list, mimeType(scheme)), ';').front() == entryName) {
-    files_.replace(listPath(), withDefault(list, mimeType(scheme), ""));
+  const std::string value = valueOf(list, mimeType(scheme));
+  if (value.find(entryName) != std::string::npos) {
+    files_.replace(listPath(), withDefault(list, mimeType(scheme), othersIn(value)));
   }
   if (files_.stamp(entryPath())) {
     files_.remove(entryPath());

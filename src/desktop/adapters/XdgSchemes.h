@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/Files.h"
 #include "platform/SchemeHandler.h"
@@ -29,7 +30,6 @@ class XdgSchemes : public SchemeHandler {
   std::string entryPath() const { return folders_.dataHome + "/applications/vantrel-ce-links.desktop"; }
   std::string listPath() const { return folders_.configHome + "/mimeapps.list"; }
   std::string entry(const std::string& scheme) const;
-  std::string listed() const;
   std::string contentOf(const std::string& path) const;
 
   Files& files_;

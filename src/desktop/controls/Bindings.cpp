@@ -11,25 +11,49 @@
 #include <cmath>
 
 #include "core/Text.h"
+#include "desktop/controls/Inks.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/TextField.h"
+#include "desktop/controls/Theme.h"
 #include "desktop/grid/ServerGridIcons.h"
 #include "desktop/text/Cp1252.h"
 
 namespace vantrel {
 namespace {
 
-constexpr Color systemColor = 0x80000000;
-
 // The widget's own colours, also while it is disabled, for a colour of the system.
 void paint(QWidget& widget, QPalette::ColorRole role, Color color) {
   QPalette palette = widget.palette();
-  if ((color & systemColor) != 0) {
+  if (colors::isSystem(color)) {
     const QPalette own = widget.parentWidget() == nullptr ? QPalette() : widget.parentWidget()->palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
       palette.setBrush(group, role, own.brush(group, role));
     }
   } else {
     palette.setColor(role, gridColor(color));
+  }
+  widget.setPalette(palette);
+}
+
+// The system's text has a dark and a light form.
+QColor inkOn(Color back, Color fore) {
+  const QColor ground = screenColor(back);
+  const QColor ink = screenColor(fore);
+  if (!colors::isSystem(fore) || readable(ink, ground) == ink) {
+    return readable(ink, ground);
+  }
+  return readable(theme::window, ground);
+}
+
+// Of texts on a ground of their own. What is the system's comes from the parent, and follows it. A state of the program
+// may give a text a ground that its colour was not chosen for.
+void paintOn(QWidget& widget, Color fore, Color back) {
+  QPalette palette;
+  if (!colors::isSystem(back)) {
+    palette.setColor(QPalette::Window, screenColor(back));
+  }
+  if (!colors::isSystem(fore) || !colors::isSystem(back)) {
+    palette.setColor(QPalette::WindowText, colors::isSystem(back) ? screenColor(fore) : inkOn(back, fore));
   }
   widget.setPalette(palette);
 }
@@ -65,11 +89,16 @@ void Bindings::bindLabel(QLabel& widget, Label& model, char mnemonic) {
     widget.setText(mnemonic == 0 ? caption : withMnemonic(caption, mnemonic));
   });
   bindVisible(widget, model.visible);
-  follow(model.foreColor, [&widget](Color color) { paint(widget, QPalette::WindowText, color); });
-  follow(model.backColor, [&widget](Color color) {
-    paint(widget, QPalette::Window, color);
-    widget.setAutoFillBackground((color & systemColor) == 0);
-  });
+  const auto color = [&widget, &model](Color /*color*/) {
+    paintOn(widget, model.foreColor.get(), model.backColor.get());
+    widget.setAutoFillBackground(!colors::isSystem(model.backColor.get()));
+  };
+  follow(model.foreColor, color);
+  follow(model.backColor, color);
+}
+
+void Bindings::bindGround(QWidget& widget, Field<Color>& color) {
+  follow(color, [&widget](Color ground) { paintOn(widget, colors::systemText, ground); });
 }
 
 // The first change is shown at once, those that follow it closely are shown together.
@@ -128,6 +157,13 @@ void Bindings::bindCheckBox(QCheckBox& widget, CheckBox& model) {
   follow(model.value, [&widget](int value) {
     widget.setCheckState(value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked);
   });
+  const auto color = [&widget, &model](Color /*color*/) {
+    paintOn(widget, model.foreColor.get(), model.backColor.get());
+    widget.setAutoFillBackground(!colors::isSystem(model.backColor.get()));
+  };
+  widget.setBackgroundRole(QPalette::Window);
+  follow(model.foreColor, color);
+  follow(model.backColor, color);
   QObject::connect(&widget, &QCheckBox::clicked, &widget, [&model](bool checked) { model.value.set(checked ? 1 : 0); });
 }
 
@@ -171,6 +207,9 @@ void Bindings::bindCommand(QAbstractButton& widget, frmMain& window, Commands& c
   follow(model.enabled, [&widget](bool enabled) { showEnabled(widget, enabled); });
   bindVisible(widget, model.visible);
   follow(model.value, [&widget](int value) { widget.setChecked(value != 0); });
+  if (auto* const button = qobject_cast<LvButton*>(&widget)) {
+    bindColors(*button, model);
+  }
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&widget, &model, &commands, number] {
     if (widget.isCheckable()) {
       model.value.set(1);
@@ -178,6 +217,14 @@ void Bindings::bindCommand(QAbstractButton& widget, frmMain& window, Commands& c
     }
     commands.cmdMenu_Click(number);
   });
+}
+
+void Bindings::bindColors(LvButton& widget, Button& model) {
+  for (Field<Color>* const color : {&model.backColor, &model.foreColor, &model.gradientColor}) {
+    follow(*color, [&widget, &model](Color /*changed*/) {
+      widget.setColors(model.backColor.get(), model.foreColor.get(), model.gradientColor.get());
+    });
+  }
 }
 
 void Bindings::bindVisible(QWidget& widget, Field<bool>& visible) {

@@ -16,6 +16,7 @@ class QWidget;
 
 namespace vantrel {
 
+class LvButton;
 class TextField;
 
 // The connections of one window or page.
@@ -23,6 +24,8 @@ class Bindings {
  public:
   // Caption, colours and whether it is there. `mnemonic`, a letter of the caption or 0, leads to the label's buddy.
   void bindLabel(QLabel& widget, Label& model, char mnemonic = 0);
+  // What stands on the widget: the colour, and texts without a colour of their own so that they can be read on it.
+  void bindGround(QWidget& widget, Field<Color>& color);
   // A text that may change a hundred times a second and is shown a few times a second.
   void bindNumber(QLabel& widget, Field<std::string>& text);
 
@@ -40,6 +43,9 @@ class Bindings {
   // Caption with `mnemonic`, one of its letters or 0, underlined; whether it can be pressed, is there, is the pressed
   // one of its pair. A click runs the command of that number.
   void bindCommand(QAbstractButton& widget, frmMain& window, Commands& commands, int number, char mnemonic = 0);
+
+  // The colours of a button of the main window.
+  void bindColors(LvButton& widget, Button& model);
 
   // Whether the widget is there.
   void bindVisible(QWidget& widget, Field<bool>& visible);

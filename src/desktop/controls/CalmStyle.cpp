@@ -15,6 +15,7 @@ constexpr int controlHeight = 24;  // of buttons and boxes
 constexpr int textMargin = 11;     // on either side of a button's text
 constexpr int cellMargin = 4;      // on either side of a text in a list
 constexpr int tickSide = 14;       // of the square of a check box
+constexpr int lightGround = 127;   // of 255: above it, the ring around what has the focus is dark
 constexpr int menuMargin = 3;      // above the first entry of a menu and below the last
 constexpr qreal menuEdge = 0.3;    // share of the text's colour in a menu's outline and separators
 
@@ -67,12 +68,21 @@ void paintField(QPainter& painter, const QStyleOption& option) {
   painter.drawRoundedRect(inner(option.rect), corner - 1, corner - 1);
 }
 
+bool isOnLight(const QStyleOption& option) {
+  return option.palette.color(QPalette::Window).lightness() > lightGround;
+}
+
+// A dark box on a light ground would look as if it were filled.
 void paintTickBox(QPainter& painter, const QStyleOption& option) {
+  const bool onLight = isOnLight(option);
   const QRectF box = inner(option.rect);
-  painter.setPen(mixed(option.palette.color(QPalette::Base), option.palette.color(QPalette::WindowText), 0.5));
-  painter.setBrush(option.palette.brush(QPalette::Base));
+  const QColor face =
+      onLight ? mixed(option.palette.color(QPalette::Window), Qt::white, 0.7) : option.palette.color(QPalette::Base);
+  const QColor ink = option.palette.color(onLight ? QPalette::WindowText : QPalette::Text);
+  painter.setPen(mixed(face, option.palette.color(QPalette::WindowText), 0.5));
+  painter.setBrush(face);
   painter.drawRoundedRect(box, corner - 1, corner - 1);
-  painter.setPen(QPen(option.palette.color(QPalette::WindowText), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(ink, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const QPointF centre = box.center();
   if (has(option, QStyle::State_On)) {
     const QPointF tick[] = {centre + QPointF(-3.2, 0), centre + QPointF(-0.9, 2.6), centre + QPointF(3.4, -2.8)};
@@ -137,7 +147,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     painter->drawRect(inner(option->rect));
   } else if (element == PE_FrameFocusRect) {
     if (widget == nullptr || !widget->inherits("QPushButton")) {
-      painter->setPen(theme::focus);
+      painter->setPen(isOnLight(*option) ? theme::strong : theme::focus);
       painter->drawRoundedRect(inner(option->rect), corner - 1, corner - 1);
     }
   } else {

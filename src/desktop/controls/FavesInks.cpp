@@ -52,6 +52,15 @@ Lights lightsUnder(int ground, double strength, double share) {
   return lights;
 }
 
+// What is behind a text has to be as much darker or lighter than it as the ground is.
+bool isReadable(const QColor& text, double ground, const LuminanceRange& behind) {
+  const double own = luminance(text);
+  return own >= ground ? own + 0.05 >= enough * (behind.lightest + 0.05)
+                       : behind.darkest + 0.05 >= enough * (own + 0.05);
+}
+
+}  // namespace
+
 QColor dimmed(const QColor& text, const QColor& ground) {
   for (double share = dimmest; share > 0; share -= dimStep) {
     const QColor color = QColor::fromRgb(mixed(text, ground, share).rgb());
@@ -61,15 +70,6 @@ QColor dimmed(const QColor& text, const QColor& ground) {
   }
   return text;
 }
-
-// What is behind a text has to be as much darker or lighter than it as the ground is.
-bool isReadable(const QColor& text, double ground, const LuminanceRange& behind) {
-  const double own = luminance(text);
-  return own >= ground ? own + 0.05 >= enough * (behind.lightest + 0.05)
-                       : behind.darkest + 0.05 >= enough * (own + 0.05);
-}
-
-}  // namespace
 
 FavesInks inksOf(const QPalette& palette) {
   const QColor ground = palette.color(QPalette::Base);

@@ -17,6 +17,9 @@ struct FavesInks {
   bool operator==(const FavesInks& other) const = default;
 };
 
+// A text's colour as softened as it may be for what explains another text.
+QColor dimmed(const QColor& text, const QColor& ground);
+
 FavesInks inksOf(const QPalette& palette);
 
 double luminance(const QColor& color);

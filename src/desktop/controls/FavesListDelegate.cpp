@@ -4,6 +4,7 @@
 
 #include "desktop/controls/FavesInks.h"
 #include "desktop/controls/FavesListModel.h"
+#include "desktop/controls/Inks.h"
 #include "desktop/grid/ServerGridIcons.h"
 
 namespace vantrel {
@@ -53,8 +54,14 @@ void FavesListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     paintGridImage(*painter, lockImage, QRect(second.right() - lockSide + 1, second.top(), lockSide, lockSide));
     second.setRight(second.right() - lockSide - columnGap);
   }
-  painter->setPen(inks.dim);
+  const FavoritesLook& look = list_.look.get();
+  const bool selected = (option.state & QStyle::State_Selected) != 0;
+  const auto inkOf = [&](Color color) {
+    return selected || colors::isSystem(color) ? inks.dim : dimmed(screenColor(color), inks.ground);
+  };
+  painter->setPen(inkOf(look.hostname));
   paintText(*painter, second, index.data(FavesListModel::hostnameRole).toString(), Qt::AlignLeft);
+  painter->setPen(inkOf(look.gametype));
   const QRect right = lines.adjusted(lines.width() * 2 / 3, 0, 0, 0);
   const int taken = paintText(*painter, right, index.data(FavesListModel::gametypeRole).toString(), Qt::AlignRight);
   painter->setPen(index.data(FavesListModel::namelessRole).toBool() ? inks.dim : inks.text);

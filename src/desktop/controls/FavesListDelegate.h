@@ -3,16 +3,22 @@
 
 #include <QStyledItemDelegate>
 
+#include "platform/FavoritesList.h"
+
 namespace vantrel {
 
 class FavesListDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  // `list` must outlive the delegate.
+  FavesListDelegate(const FavoritesList& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ private:
+  const FavoritesList& list_;
 };
 
 }  // namespace vantrel

@@ -9,6 +9,7 @@
 #include "desktop/controls/FavesInks.h"
 #include "desktop/controls/FavesListDelegate.h"
 #include "desktop/controls/FavesPicture.h"
+#include "desktop/controls/Inks.h"
 #include "desktop/controls/PlainText.h"
 #include "desktop/text/Cp1252.h"
 
@@ -36,7 +37,7 @@ FavesListView::FavesListView(FavoritesList& list, const char* name, const QStrin
   setSelectionMode(SingleSelection);
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setItemDelegate(new FavesListDelegate(this));
+  setItemDelegate(new FavesListDelegate(list, this));
   // While the items change, the toolkit moves the current row about by itself; this has to hear of it first.
   connect(items_, &FavesListModel::rowsAboutToBeRemoved, this, [this] { followsList_ = true; });
   setModel(items_);
@@ -50,7 +51,27 @@ FavesListView::FavesListView(FavoritesList& list, const char* name, const QStrin
   connect(picture_, &FavesPicture::changed, viewport(), QOverload<>::of(&QWidget::update));
   connect(this, &QListView::clicked, this, &FavesListView::tellClick);
   connect(this, &QListView::doubleClicked, this, &FavesListView::editAsked);
+  lookChanged_ = list.look.changed.connect([this] { applyLook(); });
+  applyLook();
   showSelection();
+}
+
+// What is written on the selected item's ground is chosen so that it can be read there: next to the list's own ground.
+void FavesListView::applyLook() {
+  const FavoritesLook& look = list_.look.get();
+  QPalette palette;
+  if (!colors::isSystem(look.background)) {
+    palette.setColor(QPalette::Base, screenColor(look.background));
+  }
+  if (!colors::isSystem(look.name)) {
+    palette.setColor(QPalette::Text, screenColor(look.name));
+  }
+  if (!colors::isSystem(look.selection)) {
+    const QColor ground = screenColor(look.selection);
+    palette.setColor(QPalette::Highlight, ground);
+    palette.setColor(QPalette::HighlightedText, readable(palette.color(QPalette::Base), ground));
+  }
+  setPalette(palette);
 }
 
 void FavesListView::showSelection() {

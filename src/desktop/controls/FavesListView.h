@@ -45,11 +45,13 @@ class FavesListView : public QListView {
   bool isTyping() const;
   void tellClick(const QModelIndex& item);
   void copySelected() const;
+  void applyLook();
   void showSelection();
 
   FavoritesList& list_;
   FavesListModel* items_;
   FavesPicture* picture_;
+  Connection lookChanged_;
   QString emptyHint_;
   QElapsedTimer sinceTyped_;  // since the last letter of a name was typed
   int lastSelected_ = 1;      // where the keys go on when nothing is selected any more

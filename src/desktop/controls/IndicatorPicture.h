@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-#include "platform/Controls.h"
+#include "desktop/controls/Bindings.h"
 
 namespace vantrel {
 
@@ -25,6 +25,7 @@ class IndicatorPicture : public QAbstractButton {
 
   Picture& model_;
   Connection changed_;
+  Bindings ground_;
 };
 
 }  // namespace vantrel

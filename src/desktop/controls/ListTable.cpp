@@ -7,12 +7,15 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "desktop/controls/CalmStyle.h"
+#include "desktop/controls/Inks.h"
 #include "desktop/controls/RowDelegate.h"
 #include "desktop/grid/MouseButtons.h"
 
 namespace vantrel {
 namespace {
 
+constexpr qreal headerInk = 0.15;      // share of the text's colour in the header's ground
 constexpr int leastRowHeight = 18;     // pixels at 100 %
 constexpr int leastHeaderHeight = 21;  // likewise
 
@@ -39,6 +42,31 @@ ListTable::ListTable(ListView& list, const char* name, const QString& accessible
     selectionModel()->select(model_->index(row, 0), QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
   });
   bindings_.bindPlace(*this, list.place);
+  for (Field<Color>* const color : {&list.foreColor, &list.backColor}) {
+    bindings_.keep(color->changed.connect([this] { applyColors(); }));
+  }
+  applyColors();
+}
+
+// The header stands out from the rows, in their own colours.
+void ListTable::applyColors() {
+  const Color fore = list_.foreColor.get();
+  const Color back = list_.backColor.get();
+  QPalette palette;
+  if (!colors::isSystem(back)) {
+    const QColor ground = screenColor(back);
+    const QColor ink = colors::isSystem(fore) ? readable(screenColor(fore), ground) : screenColor(fore);
+    for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase}) {
+      palette.setColor(role, ground);
+    }
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      palette.setColor(role, ink);
+    }
+    palette.setColor(QPalette::Button, mixed(ground, ink, headerInk));
+  } else if (!colors::isSystem(fore)) {
+    palette.setColor(QPalette::Text, screenColor(fore));
+  }
+  setPalette(palette);
 }
 
 void ListTable::applyColumns(const ListView& list) {

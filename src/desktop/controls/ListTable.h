@@ -29,6 +29,7 @@ class ListTable : public QTableView {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  void applyColors();
   void applyColumns(const ListView& list);
   void tellSelection();
   void showSorting();

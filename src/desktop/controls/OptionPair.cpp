@@ -1,13 +1,17 @@
 #include "desktop/controls/OptionPair.h"
+#include "desktop/controls/LvButton.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
+#include <memory>
 
 namespace vantrel {
 
 OptionPair::OptionPair(Bindings& bindings, frmMain& window, Commands& commands, Half left, Half right,
                        const QString& accessibleName, QWidget* parent)
-    : QWidget(parent), left_(new QPushButton(this)), right_(new QPushButton(this)) {
+    : QWidget(parent) {
+  const auto container = std::make_shared<ButtonContainer>();
+  left_ = new LvButton(this, container);
+  right_ = new LvButton(this, container);
   setAccessibleName(accessibleName);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   auto* const row = new QHBoxLayout(this);
@@ -19,8 +23,6 @@ OptionPair::OptionPair(Bindings& bindings, frmMain& window, Commands& commands, 
     button->setAccessibleDescription(accessibleName);
     row->addWidget(button);
   }
-  left_->setProperty("segment", "left");
-  right_->setProperty("segment", "right");
 }
 
 }  // namespace vantrel

@@ -6,8 +6,7 @@
 #include "core/Commands.h"
 #include "core/frmMain.h"
 #include "desktop/controls/Bindings.h"
-
-class QPushButton;
+#include "desktop/controls/LvButton.h"
 
 namespace vantrel {
 
@@ -25,12 +24,12 @@ class OptionPair : public QWidget {
   OptionPair(Bindings& bindings, frmMain& window, Commands& commands, Half left, Half right,
              const QString& accessibleName, QWidget* parent);
 
-  QPushButton& left() { return *left_; }
-  QPushButton& right() { return *right_; }
+  LvButton& left() { return *left_; }
+  LvButton& right() { return *right_; }
 
  private:
-  QPushButton* left_;
-  QPushButton* right_;
+  LvButton* left_;
+  LvButton* right_;
 };
 
 }  // namespace vantrel

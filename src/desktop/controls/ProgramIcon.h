@@ -3,15 +3,9 @@
 
 #include <QIcon>
 
-class QPainter;
-class QRectF;
-
 namespace vantrel {
 
-// In every size in which desktops show icons; up to 24 pixels it is a plainer drawing that keeps to whole pixels.
+// In every size in which desktops show icons; up to 24 pixels it is a plainer drawing.
 QIcon programIcon();
-
-// The mark in a square, at any size. packaging/vantrel-ce.svg is the same drawing.
-void paintProgramIcon(QPainter& painter, const QRectF& square);
 
 }  // namespace vantrel

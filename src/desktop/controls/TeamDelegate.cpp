@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/controls/Inks.h"
 #include "desktop/controls/Theme.h"
 
 namespace vantrel {
@@ -45,7 +46,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   }
   QStyleOptionViewItem shown(option);
   if (index.column() == teamColumn_ && !selected && !team.isEmpty()) {
-    shown.palette.setColor(QPalette::Text, teamColor(team));
+    shown.palette.setColor(QPalette::Text, readable(teamColor(team), option.palette.color(QPalette::Base)));
   }
   if (index.column() == 0) {
     shown.rect.setLeft(shown.rect.left() + stripWidth);

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "desktop/controls/InfoBox.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/TeamDelegate.h"
 #include "desktop/controls/Theme.h"
 
@@ -11,7 +13,8 @@ namespace vantrel {
 namespace {
 
 // Where what has no place of its own in the model lies, in pixels at 100 %: over and under the lists.
-constexpr QRect titlePlace(40, 114, 340, 24);
+constexpr QRect titlePlace(40, 114, 275, 24);
+constexpr int titleMargin = 8;
 constexpr QPoint buddyPlace(40, 468);
 
 QFont fixedWidthFont(const QWidget& widget) {
@@ -47,16 +50,18 @@ ListTable* DetailPages::addList(ListView& list, const char* name, const QString&
 }
 
 void DetailPages::makeTitle(QWidget* parent) {
-  auto* const title = new QLabel(parent);
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::listTitle], infoBox::listTitle, parent);
+  box->setGeometry(titlePlace);
+  auto* const title = new QLabel(box);
   title->setObjectName("lblText2_0");
-  title->setGeometry(titlePlace);
+  title->setGeometry(titlePlace.translated(-titlePlace.topLeft()).adjusted(titleMargin, 0, -titleMargin, 0));
   makeHeading(*title);
   bindings_.bindLabel(*title, window_.lblText2[0]);
-  bindings_.bindUncovered(*title, window_.lblText2[0].visible, window_.PicAbout.visible);
+  bindings_.bindUncovered(*box, window_.lblText2[0].visible, window_.PicAbout.visible);
 }
 
 QWidget* DetailPages::makeBuddyButton(Commands& commands, QWidget* parent) {
-  auto* const button = new QPushButton(parent);
+  auto* const button = new LvButton(parent);
   bindings_.bindCommand(*button, window_, commands, command::explainBuddies, 'D');
   button->move(buddyPlace);
   button->resize(button->sizeHint());

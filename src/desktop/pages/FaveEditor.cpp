@@ -9,11 +9,11 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-#include "desktop/controls/PageIcons.h"
 #include "desktop/controls/PlainText.h"
 #include "desktop/controls/TextField.h"
 #include "desktop/controls/Theme.h"
 #include "desktop/pages/PageCard.h"
+#include "desktop/pictures/SvgPicture.h"
 #include "desktop/text/Cp1252.h"
 
 namespace vantrel {
@@ -97,7 +97,7 @@ TextField* FaveEditor::makePassword(QWidget* card) {
   show->setShortcut(Qt::ALT | Qt::Key_Z);
   const auto apply = [box, show](bool readable) {
     box->setEchoMode(readable ? QLineEdit::Normal : QLineEdit::Password);
-    show->setIcon(pageIcon(readable ? PageIcon::crossedEye : PageIcon::eye, theme::dimText));
+    show->setIcon(pictureIcon(readable ? QStringLiteral("crossed-eye") : QStringLiteral("eye"), theme::dimText));
     show->setToolTip(readable ? tr("Hide the password (Alt+Z)") : tr("Show the password (Alt+Z)"));
   };
   apply(false);
@@ -130,7 +130,7 @@ QBoxLayout* FaveEditor::makeButtons(QWidget* card) {
       parts_.button(command::updateFave, card, 'U', tr("Writes what stands in the boxes over the selected favorite")));
   row->addStretch(1);
   QPushButton* const clear = parts_.button(command::clearFaveEditor, card, 0, tr("Clear the editor"));
-  clear->setIcon(pageIcon(PageIcon::clear, theme::text));
+  clear->setIcon(pictureIcon(QStringLiteral("clear"), theme::text));
   clear->setAccessibleName(tr("Clear the editor"));
   row->addWidget(clear);
   return row;

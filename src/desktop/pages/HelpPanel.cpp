@@ -53,7 +53,6 @@ HelpPanel::HelpPanel(frmMain& window, Commands& /*commands*/, QWidget* parent)
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text_->setFocusPolicy(Qt::StrongFocus);
   text_->setTabChangesFocus(true);
-  text_->viewport()->setAutoFillBackground(false);
   text_->document()->setDocumentMargin(textMargin);
   auto* const filled = new QVBoxLayout(card);
   filled->setContentsMargins(0, 0, 0, 0);

@@ -7,8 +7,9 @@ namespace vantrel {
 PagePanel::PagePanel(Panel& model, const char* name, QWidget* parent) : QWidget(parent), content_(new QWidget(this)) {
   setObjectName(name);
   setAttribute(Qt::WA_StyledBackground);
-  setAutoFillBackground(true);
   parent->installEventFilter(this);
+  bindings_.bindGround(*this, model.backColor);
+  setAutoFillBackground(true);
   bindings_.bindPlace(*this, model.place);
   bindings_.bindVisible(*this, model.visible);
 }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/TextField.h"
 #include "desktop/controls/Theme.h"
 
@@ -82,7 +83,7 @@ QCheckBox* PageParts::checkBox(const QString& name, CheckBox& model, QWidget* pa
 }
 
 QPushButton* PageParts::button(int number, QWidget* parent, char mnemonic, const QString& toolTip) {
-  auto* const button = new QPushButton(parent);
+  auto* const button = new LvButton(parent);
   button->setToolTip(toolTip);
   bindings_.bindCommand(*button, window_, commands_, number, mnemonic);
   return button;

@@ -3,12 +3,15 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/controls/CalmStyle.h"
 #include "desktop/controls/ElidedLabel.h"
 #include "desktop/controls/Theme.h"
 
 namespace vantrel {
 namespace {
 
+constexpr qreal lighter = 0.04;      // share of the text's colour in the line's ground
+constexpr qreal edge = 0.2;          // and in its upper edge
 constexpr int refreshInterval = 80;  // milliseconds
 
 }  // namespace
@@ -18,7 +21,6 @@ ProgressLine::ProgressLine(SweepProgress& progress, QWidget* parent)
   setObjectName("progressLine");
   message_->setObjectName("progressText");
   message_->setAccessibleName(tr("Progress of the sweep"));
-  makeDim(*message_);
   refresh_.setSingleShot(true);
   refresh_.setInterval(refreshInterval);
   connect(&refresh_, &QTimer::timeout, this, [this] {
@@ -49,8 +51,10 @@ QString ProgressLine::text() const {
 
 void ProgressLine::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.fillRect(rect(), theme::panel);
-  painter.fillRect(QRectF(0, 0, width(), 1), theme::edge);
+  const QColor ground = palette().color(QPalette::Window);
+  const QColor ink = palette().color(QPalette::WindowText);
+  painter.fillRect(rect(), mixed(ground, ink, lighter));
+  painter.fillRect(QRectF(0, 0, width(), 1), mixed(ground, ink, edge));
   if (progress_.walking.get()) {
     const int listed = std::max(1, progress_.listed.get());
     const double share = std::min(1.0, static_cast<double>(progress_.asked.get()) / listed);

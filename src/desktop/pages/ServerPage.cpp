@@ -6,8 +6,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/controls/InfoBox.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/TextField.h"
-#include "desktop/controls/Theme.h"
 #include "desktop/grid/ServerGridView.h"
 #include "desktop/pages/ProgressLine.h"
 
@@ -16,7 +17,9 @@ namespace {
 
 constexpr int edge = 12;  // from the window's sides
 constexpr int gap = 6;
-constexpr int wideGap = 14;
+constexpr int wideGap = 8;
+constexpr int boxMargin = 8;  // in an info box, on either side
+constexpr int boxInset = 3;   // above and below
 constexpr int footerGap = 10;
 constexpr int totalWidth = 46;
 constexpr qreal totalSize = 11;  // points
@@ -52,25 +55,35 @@ QWidget* ServerPage::makeToolbar() {
   auto* const row = new QHBoxLayout(toolbar);
   row->setContentsMargins(edge, 2, edge, 7);
   row->setSpacing(gap);
-  auto* const get = new QPushButton(toolbar);
+  auto* const get = new LvButton(toolbar);
   get->setToolTip(tr("Asks the master server for all game servers and queries each of them"));
   bindings_.bindCommand(*get, window_, commands_, command::getServerList, 'H');
   get->setFocus();
   row->addWidget(get);
   row->addSpacing(wideGap);
-  addSearch(*row);
+  addSearch(*addBox(*row, infoBox::search));
   row->addStretch(1);
-  addTotal(*row, "txtPlayers", tr("Players"), window_.txtPlayers);
-  addTotal(*row, "txtCTF", tr("CTF"), window_.txtCTF);
-  addTotal(*row, "txtSlayer", tr("Slayer"), window_.txtSlayer);
-  addTotal(*row, "txtOther", tr("Other"), window_.txtOther);
+  QBoxLayout* const totals = addBox(*row, infoBox::totals);
+  bindings_.bindLabel(*addTotal(*totals, "txtPlayers", tr("Players"), window_.txtPlayers), window_.lblPlayers);
+  addTotal(*totals, "txtCTF", tr("CTF"), window_.txtCTF);
+  addTotal(*totals, "txtSlayer", tr("Slayer"), window_.txtSlayer);
+  addTotal(*totals, "txtOther", tr("Other"), window_.txtOther);
   return toolbar;
+}
+
+QBoxLayout* ServerPage::addBox(QBoxLayout& row, infoBox::Number number) {
+  auto* const box = new InfoBox(window_.shpInfo[number], number, this);
+  auto* const inside = new QHBoxLayout(box);
+  inside->setContentsMargins(boxMargin, boxInset, boxMargin, boxInset);
+  inside->setSpacing(gap);
+  row.addWidget(box);
+  return inside;
 }
 
 void ServerPage::addSearch(QBoxLayout& row) {
   auto* const caption = new QLabel(this);
   auto* const name = new TextField(this);
-  auto* const go = new QPushButton(this);
+  auto* const go = new LvButton(this);
   caption->setObjectName("lblText14");
   caption->setBuddy(name);
   bindings_.bindLabel(*caption, window_.lblText[searchLabel], 'Y');
@@ -87,7 +100,7 @@ void ServerPage::addSearch(QBoxLayout& row) {
   row.addWidget(go);
 }
 
-void ServerPage::addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model) {
+QLabel* ServerPage::addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model) {
   auto* const column = new QVBoxLayout;
   column->setSpacing(0);
   auto* const number = new QLabel(this);
@@ -101,10 +114,10 @@ void ServerPage::addTotal(QBoxLayout& row, const char* name, const QString& capt
   bindings_.bindNumber(*number, model.text);
   auto* const label = new QLabel(caption, this);
   label->setAlignment(Qt::AlignRight);
-  makeDim(*label);
   column->addWidget(number);
   column->addWidget(label);
   row.addLayout(column);
+  return label;
 }
 
 QWidget* ServerPage::makeFooter(SweepProgress& progress) {
@@ -112,11 +125,15 @@ QWidget* ServerPage::makeFooter(SweepProgress& progress) {
   auto* const row = new QHBoxLayout(footer);
   row->setContentsMargins(edge, ProgressLine::barHeight + 5, edge, 5);
   row->setSpacing(footerGap);
-  auto* const hide = new QCheckBox(footer);
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::hide], infoBox::hide, footer);
+  auto* const inside = new QHBoxLayout(box);
+  inside->setContentsMargins(boxMargin, boxInset, boxMargin, boxInset);
+  auto* const hide = new QCheckBox(box);
+  inside->addWidget(hide);
   hide->setObjectName("chkOptions4");
   bindings_.bindCheckBox(*hide, window_.chkOptions[hideOption]);
   hide->setAccessibleName(hide->text());
-  auto* const exportList = new QPushButton(footer);
+  auto* const exportList = new LvButton(footer);
   exportList->setToolTip(tr("Writes the server list to a file"));
   bindings_.bindCommand(*exportList, window_, commands_, command::exportServers, 'X');
   auto* const count = new QLabel(footer);
@@ -124,7 +141,7 @@ QWidget* ServerPage::makeFooter(SweepProgress& progress) {
   count->setAccessibleName(tr("Server count"));
   count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   bindings_.bindNumber(*count, window_.lblCount.caption);
-  row->addWidget(hide);
+  row->addWidget(box);
   row->addWidget(&footer->message(), 1);
   row->addWidget(count);
   row->addWidget(exportList);

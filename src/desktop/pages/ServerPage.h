@@ -10,6 +10,7 @@
 #include "query/SweepProgress.h"
 
 class QBoxLayout;
+class QLabel;
 
 namespace vantrel {
 
@@ -27,7 +28,9 @@ class ServerPage : public QWidget {
  private:
   QWidget* makeToolbar();
   void addSearch(QBoxLayout& row);
-  void addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model);
+  QBoxLayout* addBox(QBoxLayout& row, infoBox::Number number);
+  // The label beneath the number.
+  QLabel* addTotal(QBoxLayout& row, const char* name, const QString& caption, TextBox& model);
   QWidget* makeFooter(SweepProgress& progress);
   void querySelected();
 

@@ -11,11 +11,13 @@
 #include <algorithm>
 
 #include "desktop/controls/IndicatorPicture.h"
+#include "desktop/controls/InfoBox.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/OptionPair.h"
 #include "desktop/controls/PlainText.h"
 #include "desktop/controls/TextField.h"
 #include "desktop/controls/Theme.h"
-#include "desktop/pages/PageCard.h"
+#include "desktop/text/Cp1252.h"
 
 namespace vantrel {
 namespace {
@@ -28,13 +30,15 @@ constexpr int all = 3;
 
 constexpr int cardMargin = 5;  // above and below what stands in a card
 constexpr int rowGap = 3;
+constexpr int shortestTheme = 8;         // characters of a theme's name that are always seen
+constexpr int cardGap = 4;               // also between a heading and its box
 constexpr qreal headingSize = 10;        // points
 constexpr QColor deepField{16, 17, 20};  // behind a text that may be red
 
 // A button that is never to be pressed and heads a card: it looks like the other headings.
-class HeadingButton : public QPushButton {
+class HeadingButton : public LvButton {
  public:
-  using QPushButton::QPushButton;
+  using LvButton::LvButton;
 
   QSize sizeHint() const override { return fontMetrics().size(Qt::TextSingleLine, text()); }
 
@@ -68,12 +72,13 @@ SettingsPage::SettingsPage(frmMain& window, frmMsg& question, Commands& commands
   setAccessibleName(tr("Settings"));
   auto* const cards = new QVBoxLayout(makeScrolled());
   cards->setContentsMargins(page::edge, page::top, page::half, page::top);
-  cards->setSpacing(page::gap);
+  cards->setSpacing(cardGap);
   addGame(*cards);
   addStartup(*cards);
   addQueries(*cards);
   addAnnouncements(*cards);
   addAtStart(*cards);
+  addThemes(*cards);
   addChat(*cards);
   cards->addStretch(1);
   lineUp();
@@ -96,21 +101,26 @@ QWidget* SettingsPage::makeScrolled() {
   return scrolled_;
 }
 
-QGridLayout* SettingsPage::addCard(QBoxLayout& cards, QWidget* heading) {
-  auto* const card = new PageCard(scrolled_);
+QGridLayout* SettingsPage::addCard(QBoxLayout& cards, QWidget* heading, infoBox::Number number) {
+  auto* const above = new QHBoxLayout;
+  above->setContentsMargins(page::padding, 0, page::padding, 0);
+  above->addWidget(heading);
+  above->addStretch(1);
+  cards.addLayout(above);
+  auto* const card = new InfoBox(window_.shpInfo[number], number, scrolled_);
+  headings_[number] = above;
   auto* const grid = new QGridLayout(card);
   grid->setContentsMargins(page::padding, cardMargin, page::padding, cardMargin);
   grid->setHorizontalSpacing(page::gap);
   grid->setVerticalSpacing(rowGap);
   grid->setColumnStretch(boxes, 1);
-  grid->addWidget(heading, 0, labels, 1, boxes + 1);
   cards.addWidget(card);
   grids_.push_back(grid);
   return grid;
 }
 
 void SettingsPage::addGame(QBoxLayout& cards) {
-  QGridLayout* const grid = addCard(cards, parts_.heading(2, scrolled_));
+  QGridLayout* const grid = addCard(cards, parts_.heading(2, scrolled_), infoBox::game);
   auto* const path = new TextField(scrolled_);
   path->setObjectName("txtHaloPath");
   QPalette deep = path->palette();
@@ -120,7 +130,7 @@ void SettingsPage::addGame(QBoxLayout& cards) {
   const auto showWhole = [path](const QString& text) { path->setToolTip(plainToolTip(text)); };
   showWhole(path->text());
   connect(path, &QLineEdit::textChanged, path, showWhole);
-  grid->addLayout(makeGameStatus(), 0, boxes, 1, all - boxes, Qt::AlignRight);
+  headings_[infoBox::game]->addLayout(makeGameStatus());
   grid->addWidget(label(15, path, 'D'), 1, labels);
   grid->addWidget(path, 1, boxes);
   grid->addWidget(parts_.button(command::locateGame, scrolled_, 0, tr("Asks where haloce.exe is")), 1, behind);
@@ -140,7 +150,8 @@ QBoxLayout* SettingsPage::makeGameStatus() {
 }
 
 void SettingsPage::addStartup(QBoxLayout& cards) {
-  QGridLayout* const grid = addCard(cards, makeHeadingButton(bindings(), window_, commands_, scrolled_));
+  QGridLayout* const grid =
+      addCard(cards, makeHeadingButton(bindings(), window_, commands_, scrolled_), infoBox::startup);
   grid->addWidget(option(0, tr("Lets the Print Screen key save a picture of the game")), 1, labels);
   grid->addWidget(option(1, tr("Opens the game's console to you")), 1, boxes);
   grid->addWidget(option(2, tr("The game does not look for joysticks and gamepads")), 2, labels);
@@ -152,7 +163,7 @@ void SettingsPage::addStartup(QBoxLayout& cards) {
 }
 
 void SettingsPage::addQueries(QBoxLayout& cards) {
-  QGridLayout* const grid = addCard(cards, parts_.heading(3, scrolled_));
+  QGridLayout* const grid = addCard(cards, parts_.heading(3, scrolled_), infoBox::queries);
   QComboBox* const tab = parts_.comboBox("cmbShowTab", window_.cmbShowTab, PageParts::Text::ofTheList, scrolled_,
                                          tr("The page that opens when the current server has answered"));
   tab->setAccessibleName(tr("Show after query"));
@@ -194,7 +205,7 @@ QCheckBox* SettingsPage::makeNeverAsk() {
 }
 
 void SettingsPage::addAnnouncements(QBoxLayout& cards) {
-  QGridLayout* const grid = addCard(cards, parts_.heading(4, scrolled_));
+  QGridLayout* const grid = addCard(cards, parts_.heading(4, scrolled_), infoBox::announcements);
   grid->addWidget(option(5, tr("Tells the channel below about your server")), 1, labels, 1, all);
   TextField* const channel =
       parts_.box("mircChan", window_.mircChan, scrolled_, tr("Name of the mIRC channel that is told"));
@@ -203,18 +214,50 @@ void SettingsPage::addAnnouncements(QBoxLayout& cards) {
 }
 
 void SettingsPage::addAtStart(QBoxLayout& cards) {
-  QGridLayout* const grid = addCard(cards, parts_.heading(5, scrolled_));
-  grid->addWidget(
-      parts_.checkBox("chkSplash", window_.chkSplash, scrolled_, tr("The window opens at once, without a splash")), 1,
-      labels);
-  grid->addWidget(parts_.checkBox("chkOldSplash", window_.chkOldSplash, scrolled_, tr("Kept from older versions")), 1,
-                  boxes);
+  auto* const row = new QHBoxLayout;
+  row->setContentsMargins(page::padding, 0, page::padding, 0);
+  row->setSpacing(2 * page::gap);
+  row->addWidget(parts_.heading(5, scrolled_));
+  row->addWidget(
+      parts_.checkBox("chkSplash", window_.chkSplash, scrolled_, tr("The window opens at once, without a splash")));
+  row->addWidget(parts_.checkBox("chkOldSplash", window_.chkOldSplash, scrolled_, tr("Kept from older versions")));
+  row->addStretch(1);
+  cards.addLayout(row);
+}
+
+// Which theme is chosen changes nothing.
+void SettingsPage::addThemes(QBoxLayout& cards) {
+  auto* const caption = new QLabel(scrolled_);
+  caption->setObjectName("lblThemes");
+  bindings().bindLabel(*caption, window_.lblThemes, 'Z');
+  QComboBox* const themes = parts_.comboBox("cmbThemes", window_.cmbThemes, PageParts::Text::ofTheList, scrolled_);
+  themes->setAccessibleName(tr("Color themes"));
+  themes->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  themes->setMinimumContentsLength(shortestTheme);
+  caption->setBuddy(themes);
+  auto* const own = new LvButton(scrolled_);
+  own->setObjectName("cmdColors");
+  own->setText(fromCp1252(window_.cmdColors.caption.get()));
+  own->setAccessibleName(tr("Colors"));
+  bindings().bindColors(*own, window_.cmdMenu[command::locateGame]);  // It looks as its neighbours do.
+  own->setToolTip(tr("Opens the window in which you choose the colors of this one"));
+  connect(own, &QPushButton::clicked, this, [this] { window_.colorsClicked.fire(); });
+  auto* const row = new QHBoxLayout;
+  row->setContentsMargins(page::padding, 0, page::padding, 0);
+  row->setSpacing(page::gap);
+  row->addWidget(caption);
+  row->addWidget(themes, 1);
+  row->addWidget(own);
+  cards.addLayout(row);
 }
 
 void SettingsPage::addChat(QBoxLayout& cards) {
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::chat], infoBox::chat, scrolled_);
+  auto* const inside = new QHBoxLayout(box);
+  inside->setContentsMargins(page::padding, rowGap, page::padding, rowGap);
+  inside->addWidget(option(6, tr("Not there yet")));
   auto* const row = new QHBoxLayout;
-  row->setContentsMargins(page::padding, 0, page::padding, 0);
-  row->addWidget(option(6, tr("Not there yet")));
+  row->addWidget(box);
   row->addStretch(1);
   cards.addLayout(row);
 }

@@ -1,6 +1,7 @@
 // The page of the settings: a card for each group, with labels and boxes in the same two columns in all of them.
 #pragma once
 
+#include <map>
 #include <vector>
 
 #include "core/SideWindows.h"
@@ -21,8 +22,8 @@ class SettingsPage : public PagePanel {
 
  private:
   QWidget* makeScrolled();
-  // A card with its heading above two columns and one that takes what is left.
-  QGridLayout* addCard(QBoxLayout& cards, QWidget* heading);
+  // A box beneath its heading, with two columns and one that takes what is left.
+  QGridLayout* addCard(QBoxLayout& cards, QWidget* heading, infoBox::Number number);
   void addGame(QBoxLayout& cards);
   void addStartup(QBoxLayout& cards);
   void addQueries(QBoxLayout& cards);
@@ -30,6 +31,7 @@ class SettingsPage : public PagePanel {
   QCheckBox* makeNeverAsk();
   void addAnnouncements(QBoxLayout& cards);
   void addAtStart(QBoxLayout& cards);
+  void addThemes(QBoxLayout& cards);
   void addChat(QBoxLayout& cards);
   QBoxLayout* makeGameStatus();
   QCheckBox* option(int number, const QString& toolTip);
@@ -42,6 +44,7 @@ class SettingsPage : public PagePanel {
   PageParts parts_;
   QWidget* scrolled_ = nullptr;
   std::vector<QGridLayout*> grids_;
+  std::map<int, QBoxLayout*> headings_;  // the rows above the boxes
 };
 
 }  // namespace vantrel

@@ -7,6 +7,8 @@
 
 #include "desktop/controls/ElidedLabel.h"
 #include "desktop/controls/IndicatorPicture.h"
+#include "desktop/controls/InfoBox.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/OptionPair.h"
 #include "desktop/controls/Theme.h"
 
@@ -24,6 +26,9 @@ constexpr int actionsTop = 284;
 constexpr int lineHeight = 18;
 constexpr int actionGap = 8;
 constexpr int gap = 8;
+constexpr int boxMargin = 8;  // in an info box, on either side
+constexpr int boxInset = 3;   // above and below
+constexpr int pingWidth = 72;
 
 constexpr std::pair<int, int> facts[] = {{1, 6}, {2, 7}, {3, 8}, {5, 9}, {11, 10}};  // caption and value in lblText
 constexpr int scoreLine = 4;
@@ -63,31 +68,30 @@ QWidget* SummaryPanel::makeFacts() {
   auto* const part = new QWidget(content());
   QBoxLayout* const column = makeColumn(part);
   column->addWidget(makeHeadingBand());
-  column->addSpacing(5);
   auto* const server = new ElidedLabel(part);
   server->setObjectName("lblData");
   server->setAccessibleName(tr("Server name"));
   server->setFixedHeight(lineHeight);
   bindings().bindLabel(*server, window_.lblData);
   column->addWidget(server);
-  auto* const score = new ElidedLabel(part);
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::summary], infoBox::summary, part);
+  auto* const inside = new QVBoxLayout(box);
+  inside->setContentsMargins(boxMargin, boxInset, boxMargin, boxInset);
+  inside->setSpacing(0);
+  auto* const score = new ElidedLabel(box);
   score->setObjectName("lblText4");
   score->setAccessibleName(tr("Score"));
   score->setFixedHeight(lineHeight);
   bindings().bindLabel(*score, window_.lblText[scoreLine]);
-  column->addWidget(score);
-  column->addSpacing(5);
-  column->addWidget(makeColumns());
+  inside->addWidget(score);
+  inside->addWidget(makeColumns(box));
+  column->addWidget(box);
   column->addStretch(1);
   return part;
 }
 
 QWidget* SummaryPanel::makeHeadingBand() {
   auto* const band = new QWidget(content());
-  QPalette raised = band->palette();
-  raised.setColor(QPalette::Window, theme::panel);
-  band->setPalette(raised);
-  band->setAutoFillBackground(true);
   band->setFixedHeight(24);
   QBoxLayout* const column = makeColumn(band);
   auto* const heading = new QLabel(band);
@@ -98,12 +102,10 @@ QWidget* SummaryPanel::makeHeadingBand() {
   return band;
 }
 
-// The captions step back behind the values. A label without a colour of its own has its parent's.
-QWidget* SummaryPanel::makeColumns() {
-  auto* const both = new QWidget(content());
+QWidget* SummaryPanel::makeColumns(QWidget* box) {
+  auto* const both = new QWidget(box);
   auto* const left = new QWidget(both);
   auto* const right = new QWidget(both);
-  makeDim(*left);
   QBoxLayout* const captions = makeColumn(left);
   QBoxLayout* const values = makeColumn(right);
   for (const auto& [caption, value] : facts) {
@@ -139,6 +141,12 @@ void SummaryPanel::addPing(QBoxLayout& captions, QBoxLayout& values) {
   shown->setObjectName("txtPing");
   shown->setAccessibleName(tr("Ping"));
   bindings().bindShownText(*shown, window_.txtPing);
+  QPalette field = shown->palette();
+  field.setColor(QPalette::Window, field.color(QPalette::Base));
+  shown->setPalette(field);
+  shown->setAutoFillBackground(true);
+  shown->setFixedWidth(pingWidth);
+  shown->setMargin(1);
   captions.addWidget(name);
   values.addWidget(shown);
 }
@@ -150,7 +158,7 @@ QWidget* SummaryPanel::makeActions() {
   rows->setSpacing(actionGap);
   rows->addLayout(makeMapRow());
   rows->addLayout(makeRefreshRow());
-  auto* const exportSummary = new QPushButton(part);
+  auto* const exportSummary = new LvButton(part);
   exportSummary->setToolTip(tr("Writes the summary of this game to a file"));
   bindings().bindCommand(*exportSummary, window_, commands_, command::exportSummary, 'X');
   QBoxLayout* const last = makeRow();
@@ -165,7 +173,7 @@ QBoxLayout* SummaryPanel::makeMapRow() {
   auto* const caption = new QLabel(content());
   caption->setObjectName("lblText2_11");
   bindings().bindLabel(*caption, window_.lblText2[11]);
-  auto* const download = new QPushButton(content());
+  auto* const download = new LvButton(content());
   download->setToolTip(tr("Fetches the map of this game"));
   bindings().bindCommand(*download, window_, commands_, command::downloadMap, 'N');
   row->addWidget(caption);
@@ -176,18 +184,23 @@ QBoxLayout* SummaryPanel::makeMapRow() {
 
 QBoxLayout* SummaryPanel::makeRefreshRow() {
   QBoxLayout* const row = makeRow();
-  auto* const caption = new QLabel(content());
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::refresh], infoBox::refresh, content());
+  auto* const inside = new QHBoxLayout(box);
+  inside->setContentsMargins(boxMargin, boxInset, boxInset, boxInset);
+  inside->setSpacing(gap);
+  auto* const caption = new QLabel(box);
   caption->setObjectName("lblText21");
-  auto* const lamp = new IndicatorPicture(window_.picRefresh, "picRefresh", tr("Auto refresh"), content());
+  auto* const lamp = new IndicatorPicture(window_.picRefresh, "picRefresh", tr("Auto refresh"), box);
   lamp->setToolTip(tr("Whether the current server is asked again every few seconds"));
   auto* const pair = new OptionPair(bindings(), window_, commands_, {command::autoRefreshOn}, {command::autoRefreshOff},
-                                    tr("Auto refresh"), content());
+                                    tr("Auto refresh"), box);
   caption->setBuddy(&pair->left());
   bindings().bindLabel(*caption, window_.lblText[21], 'U');
-  row->addWidget(caption);
-  row->addStretch(1);
-  row->addWidget(lamp);
-  row->addWidget(pair);
+  inside->addWidget(caption);
+  inside->addStretch(1);
+  inside->addWidget(lamp);
+  inside->addWidget(pair);
+  row->addWidget(box);
   return row;
 }
 

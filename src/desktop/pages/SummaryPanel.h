@@ -20,7 +20,7 @@ class SummaryPanel : public PagePanel {
  private:
   QWidget* makeFacts();
   QWidget* makeHeadingBand();
-  QWidget* makeColumns();
+  QWidget* makeColumns(QWidget* box);
   void addFact(QBoxLayout& captions, QBoxLayout& values, int caption, int value);
   void addPing(QBoxLayout& captions, QBoxLayout& values);
   QWidget* makeActions();

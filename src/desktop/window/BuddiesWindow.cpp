@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/controls/FavesListView.h"
-#include "desktop/controls/PageIcons.h"
 #include "desktop/controls/TextField.h"
 #include "desktop/controls/Theme.h"
+#include "desktop/pictures/SvgPicture.h"
 
 namespace vantrel {
 namespace {
@@ -50,7 +50,7 @@ QBoxLayout* BuddiesWindow::makeName() {
   connect(name, &QLineEdit::returnPressed, add, &QPushButton::click);
   QPushButton* const find =
       makeButton(model_.cmdMenu[frmBuddies::find], "find", 0, [this] { model_.pressed.fire(frmBuddies::find); });
-  find->setIcon(pageIcon(PageIcon::lens, palette().color(QPalette::ButtonText)));
+  find->setIcon(pictureIcon(QStringLiteral("lens"), palette().color(QPalette::ButtonText)));
   find->setFixedWidth(findWidth);
   find->setAccessibleName(tr("Look for this name on-line"));
   find->setToolTip(tr("Asks all servers for players with this name, or a part of it"));

@@ -7,6 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "desktop/controls/InfoBox.h"
+#include "desktop/controls/Inks.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/PlainText.h"
 #include "desktop/controls/TextField.h"
 #include "desktop/controls/Theme.h"
@@ -19,6 +22,8 @@ constexpr int edge = 12;         // from the window's sides
 constexpr int tabsHeight = 40;   // of the first row
 constexpr int playersImage = 3;  // of the server list's images
 constexpr int serverRowGap = 6;
+constexpr int boxMargin = 8;  // in the box around the address
+constexpr int boxInset = 3;
 
 // The strip is always there, so its letters, together with the digits of none, are taken on every page:
 // A B C E F G I L M O P Q R S T V. The pages choose from D H J K N U W X Y Z.
@@ -65,6 +70,7 @@ HeaderStrip::HeaderStrip(frmMain& window, Commands& commands, QWidget* parent)
   rows->setSpacing(0);
   rows->addWidget(makeTabs());
   rows->addWidget(makeServer(), 1);
+  bindings_.keep(window_.Line1.borderColor.changed.connect([this] { update(); }));
   followPages();
 }
 
@@ -104,8 +110,15 @@ QWidget* HeaderStrip::makeServer() {
   auto* const row = new QHBoxLayout(server);
   row->setContentsMargins(edge, 0, edge, 1);
   row->setSpacing(serverRowGap);
-  addBox(*row, {12, 'I'}, "txtIP", window_.txtIP, 132);
-  addBox(*row, {13, 'R'}, "txtPort", window_.txtPort, 54);
+  auto* const box = new InfoBox(window_.shpInfo[infoBox::currentServer], infoBox::currentServer, server);
+  auto* const boxes = new QHBoxLayout(box);
+  boxes->setContentsMargins(boxMargin, boxInset, boxInset, boxInset);
+  boxes->setSpacing(serverRowGap);
+  addBox(*boxes, {12, 'I'}, "txtIP", window_.txtIP, 132);
+  boxes->addSpacing(serverRowGap);
+  addBox(*boxes, {13, 'R'}, "txtPort", window_.txtPort, 54);
+  row->addWidget(box, 0, Qt::AlignVCenter);
+  row->addSpacing(serverRowGap);
   addCommand(*row, command::queryServer, 'Q', tr("Asks the current server what is going on"));
   addCommand(*row, command::launchGame, 'L', tr("Starts the game and joins the current server"));
   row->addStretch(1);
@@ -127,11 +140,10 @@ void HeaderStrip::addBox(QBoxLayout& row, BoxLabel label, const char* name, Text
   bindings_.bindTextBox(*box, model);
   row.addWidget(caption);
   row.addWidget(box);
-  row.addSpacing(serverRowGap);
 }
 
 void HeaderStrip::addCommand(QBoxLayout& row, int number, char mnemonic, const QString& toolTip) {
-  auto* const button = new QPushButton(this);
+  auto* const button = new LvButton(this);
   button->setToolTip(toolTip);
   bindings_.bindCommand(*button, window_, commands_, number, mnemonic);
   row.addWidget(button);
@@ -158,9 +170,9 @@ QWidget* HeaderStrip::tabOnShow() const {
 
 void HeaderStrip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.fillRect(rect(), theme::window);
-  painter.fillRect(0, 0, width(), tabsHeight, theme::panel);
-  painter.fillRect(0, height() - 1, width(), 1, theme::edge);
+  const QColor ground = palette().color(QPalette::Window);
+  painter.fillRect(rect(), ground);
+  painter.fillRect(0, height() - 1, width(), 1, screenColor(window_.Line1.borderColor.get()));
 }
 
 }  // namespace vantrel

@@ -55,7 +55,9 @@ MainWindow::MainWindow(frmMain& model, Commands& commands, SweepProgress& progre
       focusKeeper_(new FocusKeeper(this, [this] { return firstOfPage(); })) {
   setObjectName("frmMain");
   backdrop_->setObjectName("backdrop");
+  bindings_.bindGround(*this, model.backColor);
   backdrop_->setAutoFillBackground(true);
+  bindings_.bindGround(*backdrop_, model.PicBG.backColor);
   bindings_.bindVisible(*backdrop_, model.PicBG.visible);
   makePages(commands, question);
   takeFirstSize();

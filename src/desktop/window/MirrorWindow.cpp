@@ -4,13 +4,13 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/controls/ElidedLabel.h"
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/MirrorListView.h"
-#include "desktop/controls/PageIcons.h"
 #include "desktop/controls/Theme.h"
+#include "desktop/pictures/SvgPicture.h"
 
 namespace vantrel {
 namespace {
@@ -75,8 +75,8 @@ QBoxLayout* MirrorWindow::makeList() {
   });
   auto* const moves = new QVBoxLayout;
   moves->setSpacing(gap);
-  moves->addWidget(makeMove(PageIcon::up, "picUp", tr("Move the mirror up"), MirrorCommand::up));
-  moves->addWidget(makeMove(PageIcon::down, "picDown", tr("Move the mirror down"), MirrorCommand::down));
+  moves->addWidget(makeMove(QStringLiteral("up"), "picUp", tr("Move the mirror up"), MirrorCommand::up));
+  moves->addWidget(makeMove(QStringLiteral("down"), "picDown", tr("Move the mirror down"), MirrorCommand::down));
   moves->addStretch(1);
   auto* const row = new QHBoxLayout;
   row->setSpacing(gap);
@@ -85,15 +85,15 @@ QBoxLayout* MirrorWindow::makeList() {
   return row;
 }
 
-QToolButton* MirrorWindow::makeMove(PageIcon icon, const char* name, const QString& text, MirrorCommand command) {
-  auto* const button = new QToolButton(this);
+LvButton* MirrorWindow::makeMove(const QString& icon, const char* name, const QString& text, MirrorCommand command) {
+  auto* const button = new LvButton(this);
   button->setObjectName(name);
-  button->setIcon(pageIcon(icon, palette().color(QPalette::ButtonText)));
+  button->setIcon(pictureIcon(icon, palette().color(QPalette::ButtonText)));
   button->setFixedSize(moveSide, moveSide);
   button->setAccessibleName(text);
   button->setToolTip(text);
   button->setFocusPolicy(Qt::StrongFocus);
-  connect(button, &QToolButton::clicked, this, [this, command] { model_.pressed.fire(command); });
+  connect(button, &QPushButton::clicked, this, [this, command] { model_.pressed.fire(command); });
   return button;
 }
 
@@ -114,14 +114,14 @@ QBoxLayout* MirrorWindow::makeListButtons() {
 QBoxLayout* MirrorWindow::makeSite() {
   auto* const picture = new QLabel(this);
   picture->setObjectName("picMirror");
-  picture->setPixmap(pageIcon(PageIcon::globe, theme::dimText).pixmap(16, 16));
+  picture->setPixmap(pictureIcon(QStringLiteral("globe"), theme::dimText).pixmap(16, 16));
   bindings().bindVisible(*picture, model_.picMirror);
   auto* const heading = new QLabel(this);
   makeDim(*heading);
   bindings().bindLabel(*heading, model_.lblUrl1);
-  auto* const site = new QPushButton(this);
+  auto* const site = new LvButton(this);
   site->setObjectName("lblURL");
-  site->setFlat(true);
+  site->control().setButtonStyle(4);
   site->setCursor(Qt::PointingHandCursor);
   QPalette link = site->palette();
   link.setColor(QPalette::ButtonText, theme::focus);

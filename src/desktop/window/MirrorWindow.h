@@ -5,11 +5,10 @@
 #include "desktop/window/SideWindow.h"
 
 class QBoxLayout;
-class QToolButton;
 
 namespace vantrel {
 
-enum class PageIcon;
+class LvButton;
 class MirrorListView;
 
 class MirrorWindow : public SideWindow {
@@ -22,7 +21,7 @@ class MirrorWindow : public SideWindow {
  private:
   QBoxLayout* makeWanted();
   QBoxLayout* makeList();
-  QToolButton* makeMove(PageIcon icon, const char* name, const QString& text, MirrorCommand command);
+  LvButton* makeMove(const QString& icon, const char* name, const QString& text, MirrorCommand command);
   QBoxLayout* makeListButtons();
   QBoxLayout* makeSite();
   QBoxLayout* makeCache();

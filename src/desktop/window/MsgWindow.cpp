@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/Theme.h"
 #include "desktop/text/Cp1252.h"
 #include "desktop/window/WindowPlaces.h"
@@ -142,7 +143,7 @@ QPushButton* MsgWindow::makeStatus() {
 }
 
 QPushButton* MsgWindow::makeButton(Button& model, const char* name, char mnemonic) {
-  auto* const button = new QPushButton(this);
+  auto* const button = new LvButton(this);
   button->setObjectName(name);
   button->setMinimumWidth(answerWidth);
   button->installEventFilter(this);

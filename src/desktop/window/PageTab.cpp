@@ -1,21 +1,22 @@
 #include "desktop/window/PageTab.h"
 
-#include <QStyleOption>
-#include <QStylePainter>
+#include <QPainter>
 
+#include "desktop/controls/CalmStyle.h"
 #include "desktop/controls/Theme.h"
 
 namespace vantrel {
 namespace {
 
 constexpr int margin = 10;     // on either side of the caption
+constexpr int flatStyle = 4;   // an edge only under the pointer
 constexpr int markHeight = 3;  // of the line under the page on show
 constexpr int iconSide = 16;   // of a tab that has a picture
 
 }  // namespace
 
-PageTab::PageTab(QWidget* parent) : QPushButton(parent) {
-  setAttribute(Qt::WA_Hover);
+PageTab::PageTab(QWidget* parent) : LvButton(parent) {
+  control().setButtonStyle(flatStyle);
   setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
   setIconSize({iconSide, iconSide});
 }
@@ -31,23 +32,10 @@ QSize PageTab::sizeHint() const {
   return {content + 2 * margin, fontMetrics().height() + 20};
 }
 
-void PageTab::paintEvent(QPaintEvent* /*event*/) {
-  QStyleOptionButton option;
-  initStyleOption(&option);
-  const bool onShow = mark_ == PageMark::onShow;
-  QStylePainter painter(this);
-  if (onShow) {
-    painter.fillRect(rect(), theme::window);
-    painter.fillRect(0, height() - markHeight, width(), markHeight, theme::accent);
-  } else if (underMouse() || isDown()) {
-    painter.fillRect(rect(), isDown() ? theme::window : theme::button);
-  }
-  option.palette.setColor(QPalette::ButtonText, onShow || underMouse() ? theme::text : theme::dimText);
-  painter.drawControl(QStyle::CE_PushButtonLabel, option);
-  if (hasFocus()) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme::focus);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 3.5, -2.5, -5.5), 3, 3);
+void PageTab::paintEvent(QPaintEvent* event) {
+  LvButton::paintEvent(event);
+  if (mark_ == PageMark::onShow) {
+    QPainter(this).fillRect(0, height() - markHeight, width(), markHeight, theme::accent);
   }
 }
 

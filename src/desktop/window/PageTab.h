@@ -1,13 +1,13 @@
 // A button of the header strip that leads to a page. The one whose page is on show is marked.
 #pragma once
 
-#include <QPushButton>
+#include "desktop/controls/LvButton.h"
 
 namespace vantrel {
 
 enum class PageMark { none, onShow };
 
-class PageTab : public QPushButton {
+class PageTab : public LvButton {
   Q_OBJECT
 
  public:

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "desktop/controls/LvButton.h"
 #include "desktop/controls/Theme.h"
 #include "desktop/text/Cp1252.h"
 #include "desktop/window/WindowPlaces.h"
@@ -50,7 +51,7 @@ QLabel* SideWindow::makeTitle(const QString& text) {
 }
 
 QPushButton* SideWindow::makeButton(Button& model, const char* name, char mnemonic, std::function<void()> press) {
-  auto* const button = new QPushButton(this);
+  auto* const button = new LvButton(this);
   button->setObjectName(name);
   const auto show = [button, &model, mnemonic] {
     button->setText(withMnemonic(fromCp1252(model.caption.get()), mnemonic));

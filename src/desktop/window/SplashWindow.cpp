@@ -3,25 +3,23 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "desktop/controls/ProgramIcon.h"
 #include "desktop/controls/Theme.h"
+#include "desktop/pictures/SvgPicture.h"
 #include "desktop/text/Cp1252.h"
 
 namespace vantrel {
 namespace {
 
 // In pixels at 100 %.
-constexpr QSize pictureSize(420, 240);
-constexpr QRectF iconPlace(34, 60, 88, 88);
+constexpr QSize splashSize(420, 240);
 constexpr int textLeft = 146;
 constexpr int nameTop = 72;
 constexpr int margin = 24;
-constexpr QRect footer(0, 192, 420, 48);
+constexpr int footer = 48;  // height
 
 constexpr qreal nameSize = 18;  // points
 
@@ -33,36 +31,13 @@ class SplashPicture : public QWidget {
  public:
   explicit SplashPicture(QWidget* parent) : QWidget(parent) {
     setObjectName("picNewSplash");
-    setFixedSize(pictureSize);
+    setFixedSize(splashSize);
   }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient ground(0, 0, 0, height());
-    ground.setColorAt(0, theme::panel);
-    ground.setColorAt(1, theme::field);
-    painter.fillRect(rect(), ground);
-    paintRings(painter);
-    painter.fillRect(footer, theme::field);
-    paintProgramIcon(painter, iconPlace);
-    painter.setPen(QPen(theme::edge, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawLine(QPointF(0, footer.top() + 0.5), QPointF(width(), footer.top() + 0.5));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-  }
-
- private:
-  static void paintRings(QPainter& painter) {
-    painter.setBrush(Qt::NoBrush);
-    int alpha = 70;
-    for (qreal radius = 74; alpha > 0; radius += 46, alpha -= 10) {
-      QColor ring = theme::accent;
-      ring.setAlpha(alpha);
-      painter.setPen(QPen(ring, 1));
-      painter.drawEllipse(iconPlace.center(), radius, radius);
-    }
+    paintPicture(painter, QStringLiteral("splash"), rect());
   }
 };
 
@@ -78,7 +53,7 @@ SplashWindow::SplashWindow(frmSplash& model) : QWidget(nullptr, splashFlags) {
   setObjectName("frmSplash");
   setAttribute(Qt::WA_ShowWithoutActivating);
   setFocusPolicy(Qt::NoFocus);
-  setFixedSize(pictureSize);
+  setFixedSize(splashSize);
   makePicture(model);
   bindWindow(model);
 }
@@ -97,7 +72,7 @@ void SplashWindow::makePicture(frmSplash& model) {
   name->setFont(large);
   makeDim(*version);
   makeDim(*progress);
-  progress->setFixedHeight(footer.height());
+  progress->setFixedHeight(footer);
   auto* const column = new QVBoxLayout(picture);
   column->setContentsMargins(textLeft, nameTop, margin, 0);
   column->setSpacing(4);

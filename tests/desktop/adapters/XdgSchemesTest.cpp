@@ -48,17 +48,20 @@ TEST_F(XdgSchemesTest, the_rest_of_the_list_stays_as_it_was) {
   schemes.claim("halo");
   const std::string others =
       "# mine\n[Added Associations]\nx-scheme-handler/halo=a.desktop\n\n[Default Applications]\n";
-  write("/config/mimeapps.list", others + "x-scheme-handler/halo=b.desktop;c.desktop\ntext/html=d.desktop\n");
+  write("/config/mimeapps.list", others + "x-scheme-handler/halo = b.desktop;c.desktop\r\ntext/html=d.desktop\n");
+  EXPECT_FALSE(schemes.isMine("halo"));
   schemes.claim("halo");
   EXPECT_EQ(bytes("/config/mimeapps.list"),
-            others + "x-scheme-handler/halo=vantrel-ce-links.desktop;\ntext/html=d.desktop\n");
+            others + "x-scheme-handler/halo=vantrel-ce-links.desktop;b.desktop;c.desktop;\ntext/html=d.desktop\n");
   schemes.withdraw("halo");
-  EXPECT_EQ(bytes("/config/mimeapps.list"), others + "text/html=d.desktop\n");
+  EXPECT_EQ(bytes("/config/mimeapps.list"),
+            others + "x-scheme-handler/halo=b.desktop;c.desktop;\ntext/html=d.desktop\n");
 }
 
 TEST_F(XdgSchemesTest, a_list_that_cannot_be_written_is_a_failure_and_no_home_is_none) {
   write("/config", "a file where the folder should be");
   EXPECT_THROW(of("/opt/vantrel-ce").claim("halo"), Failure);
+  EXPECT_FALSE(files.stamp(home + "/data/applications/vantrel-ce-links.desktop"));
   XdgSchemes homeless(files, {});
   homeless.claim("halo");
   homeless.withdraw("halo");

@@ -131,7 +131,7 @@ TEST_F(MainWindowTest, the_tab_key_goes_from_the_header_through_the_page_as_the_
       {command::showPlayers, " ListView2 cmdMenu42" + score},
       {command::showSettings,
        " txtHaloPath cmdMenu15 chkOptions0 chkOptions1 chkOptions2 chkOptions3 cmbVid cmbShowTab picJoin cmdMenu10"
-       " cmdMenu0 chkMsg chkOptions5 mircChan chkSplash chkOldSplash chkOptions6 txtFAQ"},
+       " cmdMenu0 chkMsg chkOptions5 mircChan chkSplash chkOldSplash cmbThemes cmdColors chkOptions6 txtFAQ"},
       {command::showTools, " lstApps cmdMenu37 txtFAQ"},
       {command::showFaves,
        " myFaves1 cmdMenu27 cmdMenu36 cmdMenu28 cmdMenu34 txtID txtServerName txtIP2 txtPort2 cmbGameType txtPass"

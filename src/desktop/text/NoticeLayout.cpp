@@ -1,4 +1,4 @@
-#include "desktop/adapters/NoticeLayout.h"
+#include "desktop/text/NoticeLayout.h"
 
 #include <QFontMetrics>
 #include <QStringList>
